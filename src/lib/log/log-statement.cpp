@@ -1,0 +1,18 @@
+#include "log-statement.h"
+
+#include <unistd.h>
+
+#include <cstring>
+
+int log_statement::ProcessId() {
+    return getpid();
+}
+
+int log_statement::ThreadNumber() {
+    // A number on one platform and a pointer on the other: its 64 bits count, not its type.
+    const pthread_t thread = pthread_self();
+    std::uint64_t number = 0;
+    static_assert(sizeof(thread) == sizeof(number));
+    std::memcpy(&number, &thread, sizeof(number));
+    return static_cast<int>(number % 100000);
+}

@@ -1,0 +1,207 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "file-op.h"
+#include "handles.h"
+#include "internal.h"
+#include "log-statement.h"
+
+namespace {
+
+constexpr mode_t kCopyMode = 0644;
+constexpr std::size_t kCopyBlock = 8192;
+
+// The next name in a stream other than "." and "..", or null at its end; a read error looks like the end. Valid until
+// the next read.
+const char* NextName(const DirStream& stream) {
+    while (const dirent* entry = readdir(stream.get())) {
+        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0) {
+            return entry->d_name;
+        }
+    }
+    return nullptr;
+}
+
+Fd OpenForCopy(const std::string& path, int flags, mode_t mode) {
+    Fd file(open(path.c_str(), flags | O_CLOEXEC, mode));
+    if (!file) {
+        const int error = errno;
+        LOG_ERROR(kLogComponent, "CopyFile: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+    }
+    return file;
+}
+
+// Writes all of the block. 0, -2 for want of space, or -1.
+int WriteBlock(const Fd& file, const char* block, std::size_t size) {
+    while (size > 0) {
+        const ssize_t written = write(file.get(), block, size);
+        if (written <= 0) {
+            // Taken before the message, which may disturb errno.
+            const int error = errno;
+            LOG_ERROR(kLogComponent, "CopyFile: write: %s (%d)\n", std::strerror(error), error);
+            return error == ENOSPC || error == EDQUOT ? -2 : -1;
+        }
+        block += written;
+        size -= static_cast<std::size_t>(written);
+    }
+    return 0;
+}
+
+// Copies from where `source` stands to its end. 0, -2 for want of space, or -1. An interrupted call is a failure: there
+// is no retry.
+int CopyContent(const Fd& source, const Fd& destination) {
+    char block[kCopyBlock];
+    for (;;) {
+        const ssize_t size = read(source.get(), block, sizeof(block));
+        if (size < 0) {
+            const int error = errno;
+            LOG_ERROR(kLogComponent, "CopyFile: read: %s (%d)\n", std::strerror(error), error);
+            return -1;
+        }
+        if (size == 0) {
+            return 0;
+        }
+        if (const int result = WriteBlock(destination, block, static_cast<std::size_t>(size)); result != 0) {
+            return result;
+        }
+    }
+}
+
+// The part of FSRename for a folder on another volume: its children one by one, then the folder itself.
+int MoveFolder(const std::string& oldPath, const std::string& newPath, bool exactPath) {
+    if (FSMKDir(newPath, true) != 0) {
+        return -3;
+    }
+    DirStream stream(opendir(oldPath.c_str()));
+    if (!stream) {
+        return -3;
+    }
+    while (const char* name = NextName(stream)) {
+        // What was moved so far stays moved.
+        if (FSRename(oldPath + "/" + name, newPath + "/" + name, exactPath) != 0) {
+            return -3;
+        }
+    }
+    stream.reset();
+    return std::remove(oldPath.c_str()) == 0 ? 0 : -3;
+}
+
+// The part of FSRemove for a folder.
+int RemoveFolder(const std::string& path) {
+    DirStream stream(opendir(path.c_str()));
+    if (!stream) {
+        // Deliberate: callers see a success for a folder that can't be listed, and go on.
+        return 0;
+    }
+    while (const char* name = NextName(stream)) {
+        if (FSRemove(path + "/" + name, false) != 0) {
+            return -3;
+        }
+    }
+    stream.reset();
+    return std::remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+}  // namespace
+
+int FSCopy(const std::string& src, const std::string& dst, bool removeSource, bool keepMode) {
+    Fd source = OpenForCopy(src, O_RDONLY, 0);
+    if (!source) {
+        return -1;
+    }
+    mode_t mode = kCopyMode;
+    if (keepMode) {
+        _FILE_INFO_tag info;
+        if (FSStat(src, info, true) < 0) {
+            LOG_ERROR(kLogComponent, "FSStat: check state (%s) failed\n", src.c_str());
+            return -1;
+        }
+        // Deliberate: a source that stands under another spelling counts as absent here, its mode is 0, and so is that
+        // of the copy.
+        mode = static_cast<std::uint16_t>(info.mode);
+    }
+    Fd destination = OpenForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC, mode);
+    if (!destination) {
+        return -1;
+    }
+    if (const int result = CopyContent(source, destination); result != 0) {
+        // A partial destination stays: clean-up is the caller's decision.
+        return result;
+    }
+    if (removeSource) {
+        source.close();
+        if (std::remove(src.c_str()) != 0) {
+            return -1;
+        }
+    }
+    // What closing the destination reports is not part of the result; a copy that must be on disk takes FSFsync.
+    return 0;
+}
+
+int FSRename(const std::string& oldPath, const std::string& newPath, bool exactPath) {
+    if (oldPath.empty() || newPath.empty()) {
+        return -1;
+    }
+    _FILE_INFO_tag info;
+    if (FSStat(oldPath, info, exactPath) < 0 || !info.exist) {
+        return -2;
+    }
+    if (std::rename(oldPath.c_str(), newPath.c_str()) == 0) {
+        return 0;
+    }
+    if (errno == ENAMETOOLONG) {
+        return -100;
+    }
+    if (errno != EXDEV) {
+        return -3;
+    }
+    switch (info.type) {
+        case FILE_TYPE_REGULAR:
+            // Deliberate: over a volume border a file loses its mode and its time, also in the middle of a folder. A
+            // full disk, -2 of the copy, is a failed move like any other.
+            return FSCopy(oldPath, newPath, true, false) < 0 ? -3 : 0;
+        case FILE_TYPE_DIRECTORY: return MoveFolder(oldPath, newPath, exactPath);
+        default: return -3;
+    }
+}
+
+int FSRemove(const std::string& path, bool /*ignoredFlag*/) {
+    if (path.empty()) {
+        return -1;
+    }
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0) {
+        return -1;
+    }
+    if (!info.exist) {
+        return 0;
+    }
+    if (info.type == FILE_TYPE_DIRECTORY) {
+        return RemoveFolder(path);
+    }
+    return std::remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+int FSFsync(const std::string& path) {
+    Fd file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file) {
+        const int error = errno;
+        if (error == ENOENT) {
+            return 1;
+        }
+        LOG_ERROR(kLogComponent, "FSFsync: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+        return -1;
+    }
+    if (fsync(file.get()) < 0) {
+        const int error = errno;
+        LOG_ERROR(kLogComponent, "FSFsync: fsync(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+        return -1;
+    }
+    return 0;
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+// A point of macOS is 1/72 of an inch.
+constexpr double kUnscaledDotsPerInch = 72.0;

@@ -1,0 +1,235 @@
+#include "cloud-service.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSettings>
+#include <cstdio>
+
+#include "backup-name.h"
+#include "extractor.h"
+#include "file-op.h"
+#include "log-statement.h"
+#include "path-table.h"
+
+namespace {
+
+constexpr char kComponent[] = "service_debug";
+
+std::string Utf8(const QString& text) {
+    return text.toStdString();
+}
+
+// Sets `field` if the open group has the key. The text ends at its first zero byte.
+void LoadKey(const QSettings& info, const char* key, std::string& field) {
+    const QString name = QString::fromLatin1(key);
+    if (info.contains(name)) {
+        field = info.value(name).toString().toUtf8().constData();
+    }
+}
+
+// Loads the four keys of an INFO file into the four fields.
+void LoadVersion(const std::string& path, std::string& majorVersion, std::string& minorVersion,
+                 std::string& buildVersion, std::string& iconOverlayVersion) {
+    QSettings info(QString::fromStdString(path), QSettings::IniFormat);
+    info.beginGroup(QStringLiteral("Version"));
+    LoadKey(info, "major_version", majorVersion);
+    LoadKey(info, "minor_version", minorVersion);
+    LoadKey(info, "build_version", buildVersion);
+    LoadKey(info, "icon_overlay_version", iconOverlayVersion);
+}
+
+// Moves the old copy to the first backup name that takes it. `attempt` is then the name's index. 0 or -1.
+int BackUp(const std::string& appDir, std::string& backupPath, int& attempt) {
+    for (attempt = 0; attempt <= kLastBackupIndex; ++attempt) {
+        backupPath = GetAppBackupDir(appDir, attempt);
+        if (FSRename(appDir, backupPath, false) == 0) {
+            return 0;
+        }
+        // At once, without a pause: what stands in the way is a leftover under that name, not a moment.
+        LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", appDir.c_str(), backupPath.c_str());
+    }
+    LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", appDir.c_str(),
+              backupPath.c_str());
+    return -1;
+}
+
+// Puts the old copy back after a failed extraction, if there was one.
+void RollBack(const std::string& appDir, const std::string& backupPath) {
+    if (backupPath.empty()) {
+        // What was unpacked is deliberately left: there is nothing better to start.
+        LOG_ERROR(kComponent, "Failed to extract package, and no old installation to rollback\n");
+        return;
+    }
+    LOG_ERROR(kComponent, "Failed to extract package, rollback to old installation\n");
+    FSRemove(appDir, false);
+    FSRename(backupPath, appDir, false);
+}
+
+}  // namespace
+
+std::string GetAppBackupDir(const std::string& path, int index) {
+    std::string name = path + "_tmp";
+    if (index == 0) {
+        return name;
+    }
+    char postfix[8];  // more than the digits of any index in use
+    if (std::snprintf(postfix, sizeof(postfix), "%d", index) < 0) {
+        // No newline of its own: the log's readers know the line so.
+        LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
+        postfix[0] = '\0';
+    }
+    return name + postfix;
+}
+
+Service::Service() : timeout(10000), appPath(Utf8(TablePath("user_kelvane_quay_app_path"))) {
+}
+
+Service::~Service() = default;
+
+void Service::SetTimeout(int value) {
+    timeout = value;
+}
+
+QString Service::GetUserInstallPath() {
+    return QDir::homePath();
+}
+
+void Service::LoadSourceVersion() {
+    const std::string path = Utf8(TablePath("user_kelvane_quay_resource_path") + "/INFO");
+    if (!IsFileExist(path, false)) {
+        LOG_INFO(kComponent, "source does not exist\n");
+        return;
+    }
+    LoadVersion(path, sourceMajorVersion, sourceMinorVersion, sourceBuildVersion, sourceIconOverlayVersion);
+    LOG_INFO(kComponent, "source_version = (%s, %s, %s, %s)\n", sourceMajorVersion.c_str(), sourceMinorVersion.c_str(),
+             sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
+}
+
+void Service::LoadTargetVersion() {
+    // Deliberately without a test for the file: a bundle without INFO has four empty versions, and its line says so.
+    const std::string path = Utf8(TablePath("root_resource_path") + "/INFO");
+    LoadVersion(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
+    LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(), targetMinorVersion.c_str(),
+             targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
+}
+
+int Service::PrepareUserEnv() {
+    const std::string appDir = appPath;
+    std::string backupPath;
+    int attempt = 0;
+    if (IsFileExist(appDir, false) && BackUp(appDir, backupPath, attempt) != 0) {
+        return -1;
+    }
+    if (ExtractPackage() != 0) {
+        RollBack(appDir, backupPath);
+        return -1;
+    }
+    LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
+    // From index 0 on, not the one in use alone: the leftovers that pushed the index up go in the same sweep.
+    for (int index = 0; index <= attempt; ++index) {
+        FSRemove(GetAppBackupDir(appDir, index), false);
+    }
+    return 0;
+}
+
+int Service::ExtractPackage() {
+    const std::string package = Utf8(TablePath("root_resource_path") + "/package/tessaly.kpk");
+    const std::string target = Utf8(TablePath("user_kelvane_quay_app_path"));
+    if (FSMKDir(target, true) < 0) {
+        LOG_ERROR(kComponent, "failed to create folder: '%s'\n", target.c_str());
+        return -1;
+    }
+    LOG_INFO(kComponent, "extract package: '%s' -> '%s'\n", package.c_str(), target.c_str());
+    Extractor extractor;
+    extractor.sourcePath = package;
+    extractor.destPath = target;
+    return extractor.Extract();
+}
+
+void Service::MigrateService() {
+    const QString oldRoot = QDir::toNativeSeparators(TablePath("user_tessaly_path"));
+    const QString newRoot = QDir::toNativeSeparators(TablePath("user_kelvane_quay_path"));
+    if (!IsFileExist(Utf8(newRoot), true) && FSMKDir(Utf8(newRoot), true) < 0) {
+        LOG_ERROR(kComponent, "Failed to create Kelvane Quay folder\n");
+        return;
+    }
+    const std::string oldData = Utf8(QDir::toNativeSeparators(oldRoot + "/data"));
+    const std::string newData = Utf8(QDir::toNativeSeparators(newRoot + "/data"));
+    if (IsFileExist(oldData, true) && FSRename(oldData, newData, true) < 0) {
+        LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
+    }
+    // Deliberately whatever became of the move: the older product goes, and the settled order has no test here.
+    if (IsFileExist(Utf8(oldRoot), true) && FSRemove(Utf8(oldRoot), false) < 0) {
+        LOG_ERROR(kComponent, "Failed to remove old .Tessaly folder\n");
+    }
+}
+
+void Service::RemoveAgedFolders() {
+    const std::string agedApp = Utf8(TablePath("user_tessaly_path") + "/app");
+    LOG_INFO(kComponent, "removing aged app folder %s\n", agedApp.c_str());
+    FSRemove(agedApp, false);
+}
+
+namespace {
+
+// Copies the entries of an open listing of `src` by way of `copyFolder` (folders) and FSCopy (all else). 0 or -1.
+template <typename CopyFolder>
+int CopyEntries(DIR_HANDLE& listing, const std::string& src, const std::string& dst, CopyFolder copyFolder) {
+    DIR_ENTRY entry = {};
+    while (FSReadDir(listing, entry) > 0) {
+        if (entry.name == "." || entry.name == "..") {
+            continue;
+        }
+        const std::string from = src + "/" + entry.name;
+        const std::string to = dst + "/" + entry.name;
+        const int copied = entry.type == FILE_TYPE_DIRECTORY ? copyFolder(from, to) : FSCopy(from, to, false, false);
+        if (copied < 0) {
+            LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
+            return -1;
+        }
+    }
+    return 0;
+}
+
+}  // namespace
+
+int Service::FSCopyPath(const std::string& src, const std::string& dst) {
+    LOG_DEBUG(kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) < 0) {
+        LOG_ERROR(kComponent, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        return -1;
+    }
+    if (!info.exist) {
+        LOG_ERROR(kComponent, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        return -1;
+    }
+    if (info.type != FILE_TYPE_DIRECTORY) {
+        // The result is dropped, deliberately: a single file counts as copied, only a folder's files are checked.
+        FSCopy(src, dst, false, false);
+        return 0;
+    }
+    if (FSMKDir(dst, true) < 0) {
+        LOG_ERROR(kComponent, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
+        return -1;
+    }
+    DIR_HANDLE listing = {};
+    if (FSOpenDir(src, 0, listing) < 0) {
+        // A folder that can't be listed counts as copied, empty; the two blanks are the line's own.
+        LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n", src.c_str());
+        return 0;
+    }
+    const int result = CopyEntries(
+        listing, src, dst, [this](const std::string& from, const std::string& to) { return FSCopyPath(from, to); });
+    FSCloseDir(listing);
+    return result;
+}
+
+PackageInfo::PackageInfo() {
+    const QString application = QCoreApplication::applicationDirPath();
+    imagesPath = (application + "/images").toUtf8().constData();
+    logPath = (QDir::homePath() + "/.KelvaneQuay_log").toUtf8().constData();
+    debugConfPath = (application + "/log/launcher.debug").toUtf8().constData();
+    packagePath = (application + "/package/tessaly.kpk").toUtf8().constData();
+    confPath = (application + "/conf").toUtf8().constData();
+}

@@ -1,0 +1,201 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <QString>
+#include <iostream>
+#include <memory>
+
+#include "log-statement.h"
+#include "notify-adapter.h"
+#include "str-table.h"
+
+namespace {
+
+constexpr char kComponent[] = "extractor_debug";
+constexpr std::size_t kBlockSize = 10240;
+
+// Nothing else: neither owners nor times nor exact modes, and links are followed where the package put them.
+constexpr int kDiskOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+static_assert(kDiskOptions == 0x2210, "the three flags, as libarchive numbers them");
+
+struct ReaderDeleter {
+    void operator()(archive* handle) const { archive_read_free(handle); }
+};
+struct WriterDeleter {
+    void operator()(archive* handle) const { archive_write_free(handle); }
+};
+using Reader = std::unique_ptr<archive, ReaderDeleter>;
+using Writer = std::unique_ptr<archive, WriterDeleter>;
+
+// libarchive's last message for a handle. It is null where the failing call said nothing.
+const char* ErrorText(archive* handle) {
+    const char* text = archive_error_string(handle);
+    return text == nullptr ? "(null)" : text;
+}
+
+void SupportAll(archive* reader) {
+    archive_read_support_filter_all(reader);
+    archive_read_support_format_all(reader);
+}
+
+// "Kelvane Quay Client is initializing..." in the user's language.
+QString InitializingText() {
+    return StrTable::LoadStr(StrTable::kRowInitializing)
+        .arg(StrTable::LoadStr(StrTable::kRowAppName), 0, QLatin1Char(' '));
+}
+
+// Writes one entry, whose header was just read, below `destPath`, and reports it. 0 or -1.
+int ExtractEntry(archive* reader, archive* writer, archive_entry* entry, const std::string& destPath, int total,
+                 int current) {
+    const char* pathname = archive_entry_pathname(entry);
+    if (pathname == nullptr) {
+        // No newline of its own: the log's readers know the line so.
+        LOG_ERROR(kComponent, "archive_entry_pathname failed");
+        return -1;
+    }
+    // Joined as it stands: an absolute pathname thereby lands below the folder, and ".." is the writer's to refuse.
+    const std::string target = destPath + "/" + pathname;
+    archive_entry_set_pathname(entry, target.c_str());
+
+    // A mere warning fails as well: a client that is almost complete is not.
+    if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer));
+        return -1;
+    }
+    Notify_Adapter::GetInstance()->UpdateProgress(total, current);
+    if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
+        return -1;
+    }
+    return 0;
+}
+
+// Writes every entry of an open archive. 0 at the archive's end, -1 on the first failure.
+int ExtractEntries(archive* reader, archive* writer, const std::string& destPath, int total) {
+    for (int current = 1;; ++current) {
+        archive_entry* entry = nullptr;
+        const int header = archive_read_next_header(reader, &entry);
+        if (header == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (header != ARCHIVE_OK) {
+            LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
+            return -1;
+        }
+        if (ExtractEntry(reader, writer, entry, destPath, total, current) != 0) {
+            return -1;
+        }
+    }
+}
+
+}  // namespace
+
+int Extractor::Extract() {
+    if (sourcePath.empty() || destPath.empty()) {
+        LOG_ERROR(kComponent, "Invalid Argument\n");
+        return -1;
+    }
+    LOG_DEBUG(kComponent, "decompress from '%s' to '%s'\n", sourcePath.c_str(), destPath.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(InitializingText());
+
+    const int total = Count();
+    if (total <= 0) {
+        LOG_ERROR(kComponent, "Failed to calculate total file numbers, ret: %d\n", total);
+        return -1;
+    }
+
+    const Reader reader(archive_read_new());
+    if (!reader) {
+        LOG_ERROR(kComponent, "Allocate extractor failed\n");
+        return -1;
+    }
+    const Writer writer(archive_write_disk_new());
+    if (!writer) {
+        LOG_ERROR(kComponent, "Allocate extractor failed\n");
+        return -1;
+    }
+    archive_write_disk_set_options(writer.get(), kDiskOptions);
+    SupportAll(reader.get());
+    if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", sourcePath.c_str(), ErrorText(reader.get()));
+        return -1;
+    }
+    return ExtractEntries(reader.get(), writer.get(), destPath, total);
+}
+
+int Extractor::Count() {
+    // An empty destination is refused too, although nothing is written here.
+    if (destPath.empty() || sourcePath.empty()) {
+        LOG_ERROR(kComponent, "Invalid argument\n");
+        return -1;
+    }
+    const Reader reader(archive_read_new());
+    if (!reader) {
+        LOG_ERROR(kComponent, "Allocate archive failed\n");
+        return -1;
+    }
+    SupportAll(reader.get());
+    if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
+        return -1;
+    }
+    int count = 0;
+    archive_entry* entry = nullptr;
+    // The end and a damage alike end the count: Extract comes upon the damage by itself and says what it is.
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++count;
+        archive_read_data_skip(reader.get());
+    }
+    return count;
+}
+
+int Extractor::List() {
+    if (destPath.empty() || sourcePath.empty()) {
+        // Deliberately no return: a listing needs no destination, and a missing source fails at its open.
+        LOG_ERROR(kComponent, "Invalid argument\n");
+    }
+    const Reader reader(archive_read_new());
+    if (!reader) {
+        LOG_ERROR(kComponent, "Allocate archive failed\n");
+        return -1;
+    }
+    SupportAll(reader.get());
+    if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
+        return -1;
+    }
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        const char* pathname = archive_entry_pathname(entry);
+        std::cout << (pathname == nullptr ? "" : pathname) << std::endl;
+        archive_read_data_skip(reader.get());
+    }
+    archive_read_close(reader.get());
+    return 0;
+}
+
+int Extractor::copy_data(archive* reader, archive* writer) {
+    if (reader == nullptr || writer == nullptr) {
+        LOG_ERROR(kComponent, "Invalid Argument\n");
+        return -1;
+    }
+    for (;;) {
+        const void* block = nullptr;
+        std::size_t size = 0;
+        la_int64_t offset = 0;
+        const int read = archive_read_data_block(reader, &block, &size, &offset);
+        if (read == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (read != ARCHIVE_OK) {
+            LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", ErrorText(reader));
+            return -1;
+        }
+        if (archive_write_data_block(writer, block, size, offset) != ARCHIVE_OK) {
+            LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", ErrorText(writer));
+            return -1;
+        }
+    }
+}

@@ -1,0 +1,151 @@
+#include "launcher.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <climits>
+
+#include "dpi-info.h"
+#include "log-statement.h"
+#include "mac-service.h"
+#include "notify-adapter.h"
+#include "path-table.h"
+#include "str-table.h"
+
+namespace {
+
+constexpr char kComponent[] = "launcher_debug";
+
+// The size of the dialog on an unscaled screen.
+constexpr double kDialogWidth = 400.0;
+constexpr double kDialogHeight = 80.0;
+
+// A row of the string table with the product's name in its placeholder.
+QString TextWithName(int row) {
+    return StrTable::LoadStr(row).arg(StrTable::LoadStr(StrTable::kRowAppName), 0, QLatin1Char(' '));
+}
+
+}  // namespace
+
+ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
+    const QFont font = QApplication::font();
+    const QString icon = TablePath("root_resource_path") + QStringLiteral("/images/ico_72_tessaly.png");
+    setWindowTitle(StrTable::LoadStr(StrTable::kRowAppName));
+    setWindowIcon(QIcon(icon));
+    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    setValue(0);
+    setRange(0, 100);
+    setLabelText(TextWithName(StrTable::kRowInitializing));
+    setFont(font);
+    setModal(true);
+    setWindowModality(Qt::WindowModal);
+    const int width = static_cast<int>(DPIinfo::getInstance()->getDPI() * kDialogWidth);
+    const int height = static_cast<int>(DPIinfo::getInstance()->getDPI() * kDialogHeight);
+    setFixedSize(width, height);
+    setStyleSheet(DPIinfo::getInstance()->getScaledStyleSheet(
+        QStringLiteral("QProgressDialog { background-color: WhiteSmoke; vertical-align: middle; }")));
+}
+
+ProcessingProgressDialog::~ProcessingProgressDialog() = default;
+
+void HandlerThread::run() {
+    exec();
+}
+
+Worker::Worker() : QObject(nullptr), thread(nullptr), service(nullptr) {
+    service = new MacService;
+    thread = new HandlerThread;
+    moveToThread(thread);
+}
+
+Worker::~Worker() {
+    delete thread;
+    delete service;
+}
+
+void Worker::StartThread() {
+    thread->start(QThread::InheritPriority);
+}
+
+void Worker::QuitThread() {
+    thread->quit();
+}
+
+void Worker::JoinThread() {
+    thread->wait(ULONG_MAX);
+}
+
+void Worker::Upgrade() {
+    Q_EMIT sigShowMsg();
+    if (service->HandlePackageUpgrade() != 0) {
+        // The user is told nothing: the run goes on to the launch of whatever copy there is.
+        LOG_ERROR(kComponent, "Failed to upgrade package\n");
+        return;
+    }
+    Q_EMIT sigUpdateProgress(100, 100);
+    Q_EMIT sigSetLabelText(TextWithName(StrTable::kRowReady));
+}
+
+void Worker::HandleServicce() {
+    LOG_DEBUG(kComponent, "running\n");
+    service->PreUpgrade();
+    if (service->IsNeedUpgrade()) {
+        Upgrade();
+    } else {
+        LOG_DEBUG(kComponent, "no need to upgrade\n");
+    }
+    service->RemoveAgedFolders();
+    service->PostUpgrade();
+    LOG_DEBUG(kComponent, "done\n");
+    Q_EMIT sigServiceDone();
+}
+
+Launcher::Launcher() : QObject(nullptr), worker(nullptr), progressDialog(nullptr) {
+    worker = new Worker;
+    progressDialog = new ProcessingProgressDialog;
+    progressDialog->setCancelButton(nullptr);
+    progressDialog->setAutoReset(false);
+    // Clears the dialog's window modality as well, so that setting a value never serves the event loop from inside.
+    progressDialog->setModal(false);
+
+    connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
+    connect(worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
+    connect(worker, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
+    connect(worker, &Worker::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(worker, &Worker::sigSetLabelText, this, &Launcher::SetLabelText);
+    connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
+}
+
+Launcher::~Launcher() {
+    delete worker;
+    delete progressDialog;
+}
+
+void Launcher::Run() {
+    worker->StartThread();
+}
+
+void Launcher::Start() {
+    Q_EMIT sigStart();
+}
+
+void Launcher::UpdateProgress(int total, int steps) {
+    progressDialog->setValue(steps * 100 / total);
+}
+
+void Launcher::SetLabelText(const QString& text) {
+    progressDialog->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox() {
+    progressDialog->show();
+}
+
+void Launcher::LaunchDone() {
+    progressDialog->setValue(100);
+    progressDialog->hide();
+    worker->QuitThread();
+    worker->JoinThread();
+    QCoreApplication::quit();
+}

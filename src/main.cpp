@@ -1,0 +1,98 @@
+// The life of the process, step by step. The order matters.
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QTranslator>
+#include <clocale>
+#include <memory>
+#include <string>
+
+#include "character-set.h"
+#include "cloud-service.h"
+#include "kelvane-locale.h"
+#include "launcher.h"
+#include "log-statement.h"
+#include "path-table.h"
+#include "single-application.h"
+#include "str-table.h"
+#include "texts.h"
+
+namespace {
+
+constexpr char kComponent[] = "launcher_debug";
+
+// Generations of the log file that are kept.
+constexpr int kLogRotateCount = 50;
+
+// Logs one path. The text is handed to "%s" as a wide one, deliberately: the line has always shown the first character
+// alone, or nothing for a key that is not set, and says no more than that about a user's folders.
+#define LOG_PATH(key) \
+    LOG_INFO(kComponent, ">>> " key " = %s\n", reinterpret_cast<const char*>(TablePath(key).toStdWString().c_str()))
+
+// Four of the keys are never set; what an unset key yields is what is logged.
+void LogPaths() {
+    LOG_PATH("user_tessaly_path");
+    LOG_PATH("user_tessaly_app_path");
+    LOG_PATH("user_tessaly_resource_path");
+    LOG_PATH("user_tessaly_data_path");
+    LOG_PATH("user_tessaly_working_dir_path");
+    LOG_PATH("user_tessaly_quay_ui_path");
+    LOG_PATH("root_resource_path");
+}
+
+// Sets the log up. Without a folder for it the run goes on: warnings and errors then go to standard error.
+void StartLog() {
+    const std::string levels = (TablePath("root_resource_path") + "/log/launcher.debug").toStdString();
+    const QString folder = TablePath("user_kelvane_quay_path") + "/log";
+    if (!QDir(QString()).mkpath(folder)) {
+        return;
+    }
+    Logger::Initialize(Logger::TYPE_FILE, (folder + "/launcher.log").toStdString(), levels, kLogRotateCount,
+                       Logger::SCOPE_THREAD);
+    LogPaths();
+}
+
+// Installs the catalog of the user's language, if there is one, and returns the language's code.
+QString InstallTranslation() {
+    auto translator = std::make_unique<QTranslator>();
+    const QString language = KelvaneLocale::getInstance()->getDefaultLanguage();
+    // An empty translator says as much as the result would. The two delimiters are empty: nothing of the name is
+    // optional.
+    static_cast<void>(translator->load(QStringLiteral(":/") + language + ".qm", QString::fromLatin1(""),
+                                       QString::fromLatin1(""), QString::fromLatin1("")));
+    if (!translator->isEmpty()) {
+        // Stays until the process ends.
+        QCoreApplication::installTranslator(translator.release());
+    }
+    return language;
+}
+
+// Thai alone takes the longer name, on every platform.
+void SetApplicationFont(const QString& language) {
+    const QString family =
+        language == QLatin1String("tha") ? QStringLiteral("Microsoft Sans Serif") : QStringLiteral("Arial");
+    QApplication::setFont(QFont(family, 12, -1, false));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QtSingleApplication application(argc, argv, true);
+    std::setlocale(LC_ALL, "");
+    platform::EnsureUtf8CharacterSet();
+    qInitResources_texts();
+    FillPathTable(Service::GetUserInstallPath(), QCoreApplication::applicationDirPath());
+    StartLog();
+    if (application.isRunning()) {
+        LOG_DEBUG(kComponent, "app has already launched, return\n");
+        return 0;
+    }
+    const QString language = InstallTranslation();
+    StrTable::InitStrTable();  // before the dialog, which reads it
+    SetApplicationFont(language);
+
+    auto launcher = std::make_unique<Launcher>();
+    launcher->Run();
+    launcher->Start();
+    return QApplication::exec();
+}

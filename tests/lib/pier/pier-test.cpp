@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <QLocale>
+
+#include "dpi-info.h"
+#include "kelvane-locale.h"
+#include "path-manager.h"
+
+namespace {
+
+TEST(KelvaneLocale, CodeOfALanguageTag) {
+    const struct {
+        const char* tag;
+        const char* code;
+    } tags[] = {
+        // Chinese: the script counts before the region, the region before nothing.
+        {"zh", "chs"}, {"zh-CN", "chs"}, {"zh-SG", "chs"}, {"zh-MY", "chs"}, {"zh-Hans", "chs"}, {"zh-Hans-CN", "chs"},
+        {"zh-Hans-HK", "chs"}, {"zh-Hans-TW", "chs"}, {"zh-Hant", "cht"}, {"zh-Hant-TW", "cht"}, {"zh-Hant-HK", "cht"},
+        {"zh-Hant-MO", "cht"}, {"zh-Hant-CN", "cht"}, {"zh-TW", "cht"}, {"zh-HK", "cht"}, {"zh-MO", "cht"},
+        {"zh_TW.UTF-8", "cht"}, {"zh_CN.GB18030", "chs"}, {"ZH-HANT", "cht"}, {"zh_HK.big5hkscs", "cht"},
+        // Portuguese: Portugal's own, Brazil's for the rest.
+        {"pt", "ptb"}, {"pt-BR", "ptb"}, {"pt_BR.UTF-8", "ptb"}, {"pt-PT", "ptg"}, {"pt_PT@euro", "ptg"},
+        {"pt-Latn-PT", "ptg"}, {"pt-AO", "ptb"}, {"pt-MZ", "ptb"},
+        // Norwegian in both its forms and without one.
+        {"no", "nor"}, {"nb", "nor"}, {"nn", "nor"}, {"nb-NO", "nor"}, {"nn-NO", "nor"}, {"nb_NO.UTF-8", "nor"},
+        // The rest by the language alone.
+        {"cs", "csy"}, {"cs-CZ", "csy"}, {"da", "dan"}, {"da_DK.UTF-8", "dan"}, {"de", "ger"}, {"de-AT", "ger"},
+        {"de-CH", "ger"}, {"de-Latn-DE", "ger"}, {"de_DE@euro", "ger"}, {"en", "enu"}, {"en-US", "enu"}, {"en-GB", "enu"},
+        {"en-AU", "enu"}, {"es", "spn"}, {"es-MX", "spn"}, {"es-419", "spn"}, {"fr", "fre"}, {"fr-CA", "fre"},
+        {"fr_BE.ISO-8859-15@euro", "fre"}, {"hu", "hun"}, {"hu-HU", "hun"}, {"it", "ita"}, {"it-CH", "ita"},
+        {"ja", "jpn"}, {"ja-JP", "jpn"}, {"ja-Jpan-JP", "jpn"}, {"ko", "krn"}, {"ko-KR", "krn"}, {"ko-Kore-KR", "krn"},
+        {"nl", "nld"}, {"nl-BE", "nld"}, {"pl", "plk"}, {"pl-PL", "plk"}, {"ru", "rus"}, {"ru-UA", "rus"}, {"sv", "sve"},
+        {"sv-FI", "sve"}, {"th", "tha"}, {"th-TH", "tha"}, {"tr", "trk"}, {"tr-CY", "trk"},
+        // No catalog: English.
+        {"ar", "enu"}, {"he-IL", "enu"}, {"uk-UA", "enu"}, {"C", "enu"}, {"POSIX", "enu"}, {"", "enu"}, {"xx", "enu"},
+        {"dej", "enu"}, {"-", "enu"}, {"zhx", "enu"},
+    };
+    for (const auto& entry : tags) {
+        EXPECT_EQ(KelvaneLocale::LanguageOf({QString::fromLatin1(entry.tag)}), QString::fromLatin1(entry.code))
+            << entry.tag;
+    }
+}
+
+TEST(KelvaneLocale, TheFirstLanguageWithACatalogWins) {
+    const auto of = [](std::initializer_list<const char*> tags) {
+        QStringList list;
+        for (const char* tag : tags) {
+            list << QString::fromLatin1(tag);
+        }
+        return KelvaneLocale::LanguageOf(list).toStdString();
+    };
+    EXPECT_EQ(of({}), "enu");
+    EXPECT_EQ(of({"uk-UA", "ru-UA", "en-US"}), "rus");
+    EXPECT_EQ(of({"ca-ES", "es-ES"}), "spn");
+    EXPECT_EQ(of({"en-US", "de-DE"}), "enu");
+    EXPECT_EQ(of({"zh-Hant-TW", "zh-TW", "zh-Hant", "zh"}), "cht");
+}
+
+TEST(UIPathManager, KeepsWhatWasSetAndGivesNothingElse) {
+    UIPathManager* paths = UIPathManager::getInstance();
+    EXPECT_EQ(paths, UIPathManager::getInstance());
+    paths->setPath(QStringLiteral("key"), QStringLiteral("/a/../b"));
+    EXPECT_EQ(paths->getPath(QStringLiteral("key")), QStringLiteral("/a/../b"));
+    EXPECT_TRUE(paths->getPath(QStringLiteral("KEY")).isEmpty());
+    EXPECT_TRUE(paths->getPath(QStringLiteral("KEY")).isEmpty()) << "asking must not make an entry";
+}
+
+TEST(DPIinfo, ScalesLengthsInPixelsOnly) {
+    const double scale = DPIinfo::getInstance()->getDPI();
+    const auto scaled = [](const char* sheet) {
+        return DPIinfo::getInstance()->getScaledStyleSheet(QString::fromLatin1(sheet)).toStdString();
+    };
+    const auto pixels = [scale](double length) { return std::to_string(qRound(length * scale)) + "px"; };
+    EXPECT_EQ(scaled("margin: 10px 7px; font: 12pt"), "margin: " + pixels(10) + " " + pixels(7) + "; font: 12pt");
+    EXPECT_EQ(scaled("border:2.5px"), "border:" + pixels(2.5));
+    EXPECT_EQ(scaled("width: 100%; color: #10px0; x10px"), "width: 100%; color: #10px0; x10px");
+    EXPECT_EQ(scaled(""), "");
+}
+
+}  // namespace

@@ -1,7 +1,8 @@
 #include "launcher-test.h"
 
+#include <regex.h>
+
 #include <filesystem>
-#include <regex>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -113,15 +114,24 @@ void LauncherTest::ExpectLaunched(const Outcome& outcome, int build) {
 }
 
 std::vector<std::string> LauncherTest::LogLines() const {
-    static const std::regex form(
-        R"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d \( *\d+: *\d+\) (\[[A-Z]+\]) [a-z-]+\.cpp\(\d+\): (.*)$)");
+    regex_t form;
+    EXPECT_EQ(regcomp(&form,
+                      "^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2} \\( *[0-9]+: *[0-9]+\\) (\\[[A-Z]+\\]) "
+                      "[a-z-]+\\.cpp\\([0-9]+\\): (.*)$",
+                      REG_EXTENDED),
+              0);
     std::vector<std::string> lines;
     std::istringstream text(Read(Private("log/launcher.log")));
     for (std::string line; std::getline(text, line);) {
-        std::smatch match;
-        EXPECT_TRUE(std::regex_match(line, match, form)) << line;
-        lines.push_back(match[1].str() + " " + match[2].str());
+        regmatch_t match[3] = {};
+        EXPECT_EQ(regexec(&form, line.c_str(), 3, match, 0), 0) << line;
+        const auto part = [&](int at) {
+            return line.substr(static_cast<std::size_t>(match[at].rm_so),
+                               static_cast<std::size_t>(match[at].rm_eo - match[at].rm_so));
+        };
+        lines.push_back(part(1) + " " + part(2));
     }
+    regfree(&form);
     return lines;
 }
 

@@ -92,15 +92,31 @@ int MoveFolder(const std::string& oldPath, const std::string& newPath, bool exac
     return std::remove(oldPath.c_str()) == 0 ? 0 : -3;
 }
 
-// The part of FSRemove for a folder.
-int RemoveFolder(const std::string& path) {
+int RemoveFolder(const std::string& path, const std::string& spelled);
+
+// The part of FSRemove behind the look at the object.
+int RemoveKnown(const std::string& path, const _FILE_INFO_tag& info) {
+    if (!info.exist) {
+        return 0;
+    }
+    if (info.type == FILE_TYPE_DIRECTORY) {
+        return RemoveFolder(path, info.path);
+    }
+    return std::remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+// The part of FSRemove for a folder, which the file system spells as `spelled`.
+int RemoveFolder(const std::string& path, const std::string& spelled) {
     DirStream stream(opendir(path.c_str()));
     if (!stream) {
         // Deliberate: callers see a success for a folder that can't be listed, and go on.
         return 0;
     }
+    const std::string prefix = spelled == "/" ? spelled : spelled + "/";
     while (const char* name = NextName(stream)) {
-        if (FSRemove(path + "/" + name, false) != 0) {
+        const std::string child = path + "/" + name;
+        _FILE_INFO_tag info;
+        if (GetEntryInfo(child, prefix + name, info) != 0 || RemoveKnown(child, info) != 0) {
             return -3;
         }
     }
@@ -179,13 +195,7 @@ int FSRemove(const std::string& path, bool /*ignoredFlag*/) {
     if (GetFileInfo(path, info) != 0) {
         return -1;
     }
-    if (!info.exist) {
-        return 0;
-    }
-    if (info.type == FILE_TYPE_DIRECTORY) {
-        return RemoveFolder(path);
-    }
-    return std::remove(path.c_str()) == 0 ? 0 : -3;
+    return RemoveKnown(path, info);
 }
 
 int FSFsync(const std::string& path) {

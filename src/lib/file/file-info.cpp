@@ -39,9 +39,9 @@ void TakeStatus(const struct stat& status, _FILE_INFO_tag& info) {
     info.dev = static_cast<std::int64_t>(static_cast<std::int32_t>(status.st_dev));
 }
 
-}  // namespace
-
-int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
+// GetFileInfo, with a way to find the spelling of a path: find(path, spelled) returns as platform::SpelledPath does.
+template <typename Find>
+int FillInfo(const std::string& path, _FILE_INFO_tag& info, Find find) {
     struct stat status = {};
     const bool found = lstat(path.c_str(), &status) == 0;
     if (!found && errno != ENOENT) {
@@ -64,8 +64,7 @@ int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
 
     LOG_DEBUG(kLogComponent, "Input file path = [%s].\n", info.path.c_str());
     std::string spelled;
-    const int failure = platform::SpelledPath(info.path, platform::Leaf::Keep, spelled);
-    if (failure != 0) {
+    if (const int failure = find(info.path, spelled); failure != 0) {
         LOG_ERROR(kLogComponent, "FSPathMakeRef: %d\n", failure);
         return -1;
     }
@@ -73,6 +72,29 @@ int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
     info.name = FSBaseName(spelled);
     info.path = std::move(spelled);
     return 0;
+}
+
+int FindSpelling(const std::string& path, std::string& spelled) {
+    return platform::SpelledPath(path, platform::Leaf::Keep, spelled);
+}
+
+// What the platform's spellings fit into.
+constexpr std::size_t kLongestSpelling = 4095;
+
+}  // namespace
+
+int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
+    return FillInfo(path, info, FindSpelling);
+}
+
+int GetEntryInfo(const std::string& path, const std::string& spelled, _FILE_INFO_tag& info) {
+    return FillInfo(path, info, [&spelled](const std::string& input, std::string& out) {
+        if (spelled.size() > kLongestSpelling) {
+            return FindSpelling(input, out);  // has a status for it
+        }
+        out = spelled;
+        return 0;
+    });
 }
 
 bool IsFileExist(const std::string& path, bool exactPath) {

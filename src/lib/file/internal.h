@@ -7,6 +7,12 @@
 // The component of every log statement of the library.
 inline constexpr const char* kLogComponent = "file_op_debug";
 
+struct _FILE_INFO_tag;
+
+// As GetFileInfo, for an entry of a listing: `spelled`, the folder's own spelling and the name as listed, is how the
+// file system spells `path`, so that nobody has to be asked. A walk costs one lstat an entry by it.
+int GetEntryInfo(const std::string& path, const std::string& spelled, _FILE_INFO_tag& info);
+
 // Says that FSMKDirP is given no mode: levels are made with 0777 under the umask that stands.
 inline constexpr std::uint16_t kNoDirMode = 0xFFFF;
 

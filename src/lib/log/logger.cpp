@@ -177,6 +177,8 @@ void Logger::UseStream(std::FILE* stream) {
 
 void Logger::Destroy() {
     log_initialized = false;
+    // Deliberately not for a type above it, whose file stays open: what is reset here is the state of a log file that
+    // is in use.
     if (config.type == TYPE_FILE) {
         std::FILE* const file = log_fp;
         // After an Initialize() that could not open its file, the stream is still one of the process's own.

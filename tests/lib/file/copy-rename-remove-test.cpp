@@ -256,7 +256,8 @@ TEST_F(RemoveTest, FolderOnAVolumeThatIgnoresCase) {
         Write(At("volume/Folder/Sub" + std::to_string(number % 3) + "/File" + std::to_string(number)), "x");
     }
     EXPECT_EQ(0, FSRemove(At("volume/folder"), false));
-    EXPECT_FALSE(fs::exists(At("volume/Folder")));
+    // Under the first spelling the kernel may remember it for a second more.
+    EXPECT_TRUE(fs::is_empty(At("volume")));
 }
 
 TEST_F(FsyncTest, Results) {

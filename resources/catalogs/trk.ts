@@ -1,0 +1,3871 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr_TR" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>Deleted</source>
+        <translation>Silindi</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Eşleşmeyi kaldır</translation>
+    </message>
+    <message>
+        <source>Connect through Ferrylink</source>
+        <translation>Ferrylink üzerinden bağlan</translation>
+    </message>
+    <message>
+        <source>Choose another folder</source>
+        <translation>Başka bir klasör seç</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Birleştir</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Hata</translation>
+    </message>
+    <message>
+        <source>File conflicts occurred. The file is now renamed as %1.</source>
+        <translation>Dosya çakışması oluştu. Dosyanın yeni adı: %1.</translation>
+    </message>
+    <message>
+        <source>The value is invalid. Please check it and try again.</source>
+        <translation>Değer geçersiz. Kontrol edip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The network is not available. Please check your connection and try again.</source>
+        <translation>Ağ kullanılamıyor. Bağlantınızı kontrol edip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Son</translation>
+    </message>
+    <message>
+        <source>Local folder</source>
+        <translation>Yerel klasör</translation>
+    </message>
+    <message>
+        <source>Link again</source>
+        <translation>Yeniden eşleştir</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Hakkında</translation>
+    </message>
+    <message>
+        <source>Checking your username and password...</source>
+        <translation>Kullanıcı adınız ve parolanız kontrol ediliyor...</translation>
+    </message>
+    <message>
+        <source>Connected successfully</source>
+        <translation>Bağlantı kuruldu</translation>
+    </message>
+    <message>
+        <source>The files in the two folders will be merged. Do you want to continue?</source>
+        <translation>İki klasördeki dosyalar birleştirilecek. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Starting up...</source>
+        <translation>Başlatılıyor...</translation>
+    </message>
+    <message>
+        <source>Please review the following settings before you finish.</source>
+        <translation>Bitirmeden önce aşağıdaki ayarları gözden geçirin.</translation>
+    </message>
+    <message>
+        <source>Testing the connection...</source>
+        <translation>Bağlantı sınanıyor...</translation>
+    </message>
+    <message>
+        <source>The username or password is incorrect.</source>
+        <translation>Kullanıcı adı veya parola yanlış.</translation>
+    </message>
+    <message>
+        <source>Change folder</source>
+        <translation>Klasörü değiştir</translation>
+    </message>
+    <message>
+        <source>The folder is not empty</source>
+        <translation>Klasör boş değil</translation>
+    </message>
+    <message>
+        <source>Folder path</source>
+        <translation>Klasör yolu</translation>
+    </message>
+    <message>
+        <source>Ferrylink ID</source>
+        <translation>Ferrylink kimliği</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Recently updated files</source>
+        <translation>Son güncellenen dosyalar</translation>
+    </message>
+    <message>
+        <source>Downloaded</source>
+        <translation>İndirildi</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Yardım</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Get started</source>
+        <translation>Başla</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Sürüm</translation>
+    </message>
+    <message>
+        <source>Looking for changes...</source>
+        <translation>Değişiklikler aranıyor...</translation>
+    </message>
+    <message>
+        <source>The connection to the hub was lost. Reconnecting...</source>
+        <translation>Hub bağlantısı kesildi. Yeniden bağlanılıyor...</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation>Karşıya yüklendi</translation>
+    </message>
+    <message>
+        <source>Customize</source>
+        <translation>Özelleştir</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Yerel ağ</translation>
+    </message>
+    <message>
+        <source>Direct connection</source>
+        <translation>Doğrudan bağlantı</translation>
+    </message>
+    <message>
+        <source>Sign-in failed</source>
+        <translation>Oturum açılamadı</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>İnternet</translation>
+    </message>
+    <message>
+        <source>Detecting the connection type...</source>
+        <translation>Bağlantı türü algılanıyor...</translation>
+    </message>
+    <message>
+        <source>Ferrylink relay</source>
+        <translation>Ferrylink aktarımı</translation>
+    </message>
+    <message>
+        <source>The Ferrylink service is not responding. Please try again later.</source>
+        <translation>Ferrylink hizmeti yanıt vermiyor. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>%1 files updated</source>
+        <translation>%1 dosya güncellendi</translation>
+    </message>
+    <message>
+        <source>You only have read access to this folder. Changes that you make on this computer will not be uploaded.</source>
+        <translation>Bu klasör için yalnızca okuma izniniz var. Bu bilgisayarda yaptığınız değişiklikler karşıya yüklenmeyecek.</translation>
+    </message>
+    <message>
+        <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
+        <translation>Hub’daki depolama kotanız doldu. Biraz yer açıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Connection type</source>
+        <translation>Bağlantı türü</translation>
+    </message>
+    <message>
+        <source>Read-only folder</source>
+        <translation>Salt okunur klasör</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>Change the local folder</source>
+        <translation>Yerel klasörü değiştir</translation>
+    </message>
+    <message>
+        <source>Shared folders</source>
+        <translation>Paylaşılan klasörler</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub could not be verified.</source>
+        <translation>Hub’ın SSL sertifikası doğrulanamadı.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Bağlantı noktası</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Bilgi</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Do not use a proxy server</source>
+        <translation>Proxy sunucusu kullanma</translation>
+    </message>
+    <message>
+        <source>Use the proxy settings of the system</source>
+        <translation>Sistemin proxy ayarlarını kullan</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+    <message>
+        <source>Select a folder</source>
+        <translation>Klasör seçin</translation>
+    </message>
+    <message>
+        <source>The connection to the Ferrylink control server failed. Please try again later.</source>
+        <translation>Ferrylink denetim sunucusuna bağlanılamadı. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Your changes have not been saved. Do you want to leave this page?</source>
+        <translation>Değişiklikleriniz kaydedilmedi. Bu sayfadan ayrılmak istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Storage full</source>
+        <translation>Depolama alanı dolu</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxy ayarları</translation>
+    </message>
+    <message>
+        <source>Synchronization could not be enabled for the shared folder.</source>
+        <translation>Paylaşılan klasör için senkronizasyon etkinleştirilemedi.</translation>
+    </message>
+    <message>
+        <source>This folder overlaps with a folder that is already synced. Please choose another one.</source>
+        <translation>Bu klasör, zaten senkronize edilen bir klasörle örtüşüyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>No more than %1 shared folders can be synced.</source>
+        <translation>En fazla %1 paylaşılan klasör senkronize edilebilir.</translation>
+    </message>
+    <message>
+        <source>Applying the settings...</source>
+        <translation>Ayarlar uygulanıyor...</translation>
+    </message>
+    <message>
+        <source>Please enter a port number from 1 to 65535.</source>
+        <translation>1 ile 65535 arasında bir bağlantı noktası numarası girin.</translation>
+    </message>
+    <message>
+        <source>Please enter the address and the port of the proxy server.</source>
+        <translation>Proxy sunucusunun adresini ve bağlantı noktasını girin.</translation>
+    </message>
+    <message>
+        <source>Set up the proxy server manually</source>
+        <translation>Proxy sunucusunu elle ayarla</translation>
+    </message>
+    <message>
+        <source>There are no changes to apply.</source>
+        <translation>Uygulanacak değişiklik yok.</translation>
+    </message>
+    <message>
+        <source>Enable synchronization</source>
+        <translation>Senkronizasyonu etkinleştir</translation>
+    </message>
+    <message>
+        <source>Shared folder name</source>
+        <translation>Paylaşılan klasör adı</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Uygula</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>Ağ ayarları</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Yönet</translation>
+    </message>
+    <message>
+        <source>The proxy server requires sign-in</source>
+        <translation>Proxy sunucusu oturum açma gerektiriyor</translation>
+    </message>
+    <message>
+        <source>Something went wrong</source>
+        <translation>Bir sorun oluştu</translation>
+    </message>
+    <message>
+        <source>Updating...</source>
+        <translation>Güncelleniyor...</translation>
+    </message>
+    <message>
+        <source>Encrypt data transmission with SSL</source>
+        <translation>Veri aktarımını SSL ile şifrele</translation>
+    </message>
+    <message>
+        <source>Hub name, IP address, or Ferrylink ID</source>
+        <translation>Hub adı, IP adresi veya Ferrylink kimliği</translation>
+    </message>
+    <message>
+        <source>Show desktop notifications</source>
+        <translation>Masaüstü bildirimlerini göster</translation>
+    </message>
+    <message>
+        <source>Show sync status icons on files and folders</source>
+        <translation>Dosya ve klasörlerde senkronizasyon durumu simgelerini göster</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Seçenekler</translation>
+    </message>
+    <message>
+        <source>General options</source>
+        <translation>Genel seçenekler</translation>
+    </message>
+    <message>
+        <source>Use a black-and-white icon in the system tray</source>
+        <translation>Sistem tepsisinde siyah beyaz simge kullan</translation>
+    </message>
+    <message>
+        <source>The shared folder &quot;%1&quot; is available to you. You can set it to sync with this computer.</source>
+        <translation>“%1” paylaşılan klasörü artık kullanımınıza açık. Bu bilgisayarla senkronize edilecek şekilde ayarlayabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>New shared folder</source>
+        <translation>Yeni paylaşılan klasör</translation>
+    </message>
+    <message>
+        <source>Checking data...</source>
+        <translation>Veriler kontrol ediliyor...</translation>
+    </message>
+    <message>
+        <source>Automatic setup failed. Please set up the connection manually.</source>
+        <translation>Otomatik kurulum başarısız oldu. Bağlantıyı elle ayarlayın.</translation>
+    </message>
+    <message>
+        <source>Finishing the setup...</source>
+        <translation>Kurulum tamamlanıyor...</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+    <message>
+        <source>Selective sync</source>
+        <translation>Seçmeli senkronizasyon</translation>
+    </message>
+    <message>
+        <source>Files and folders that match these rules will not be synced.</source>
+        <translation>Bu kurallara uyan dosya ve klasörler senkronize edilmeyecek.</translation>
+    </message>
+    <message>
+        <source>Installing the update...</source>
+        <translation>Güncelleme yükleniyor...</translation>
+    </message>
+    <message>
+        <source>File extensions</source>
+        <translation>Dosya uzantıları</translation>
+    </message>
+    <message>
+        <source>Folder on a mount point</source>
+        <translation>Bağlama noktasındaki klasör</translation>
+    </message>
+    <message>
+        <source>Software update</source>
+        <translation>Yazılım güncellemesi</translation>
+    </message>
+    <message>
+        <source>Progress: %1</source>
+        <translation>İlerleme: %1</translation>
+    </message>
+    <message>
+        <source>Stop syncing &quot;%1&quot;? The files on this computer and on the hub will be kept.</source>
+        <translation>“%1” klasörünün senkronizasyonu durdurulsun mu? Bu bilgisayardaki ve hub’daki dosyalar korunacak.</translation>
+    </message>
+    <message>
+        <source>The shared folder could not be removed from the list.</source>
+        <translation>Paylaşılan klasör listeden kaldırılamadı.</translation>
+    </message>
+    <message>
+        <source>This setup key has already been used. Please request a new one from your administrator.</source>
+        <translation>Bu kurulum anahtarı zaten kullanılmış. Yöneticinizden yeni bir anahtar isteyin.</translation>
+    </message>
+    <message>
+        <source>The new language takes effect after you restart the application.</source>
+        <translation>Yeni dil, uygulamayı yeniden başlattığınızda geçerli olur.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>The disk of this computer is full. Please free up some space and try again.</source>
+        <translation>Bu bilgisayarın diski dolu. Biraz yer açıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Loading the folder list...</source>
+        <translation>Klasör listesi yükleniyor...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to unlink this computer from the hub?</source>
+        <translation>Bu bilgisayarın hub ile eşleşmesini kaldırmak istediğinizden emin misiniz?</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Hedef</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Hazırlanıyor...</translation>
+    </message>
+    <message>
+        <source>Uploading...</source>
+        <translation>Karşıya yükleniyor...</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Sistem varsayılanı</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Klasör adı</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation>İndiriliyor...</translation>
+    </message>
+    <message>
+        <source>[ProductName] Setup</source>
+        <translation>[ProductName] Kurulumu</translation>
+    </message>
+    <message>
+        <source>Syncing %1 files...</source>
+        <translation>%1 dosya senkronize ediliyor...</translation>
+    </message>
+    <message>
+        <source>Downloading &quot;%1&quot;...</source>
+        <translation>“%1” indiriliyor...</translation>
+    </message>
+    <message>
+        <source>Folders to sync</source>
+        <translation>Senkronize edilecek klasörler</translation>
+    </message>
+    <message>
+        <source>Advanced settings</source>
+        <translation>Gelişmiş ayarlar</translation>
+    </message>
+    <message>
+        <source>Maximum file size</source>
+        <translation>En büyük dosya boyutu</translation>
+    </message>
+    <message>
+        <source>Excluded file names</source>
+        <translation>Hariç tutulan dosya adları</translation>
+    </message>
+    <message>
+        <source>Excluded files</source>
+        <translation>Hariç tutulan dosyalar</translation>
+    </message>
+    <message>
+        <source>The local database is damaged. Please unlink this computer from the hub and link it again.</source>
+        <translation>Yerel veritabanı hasarlı. Bu bilgisayarın hub ile eşleşmesini kaldırıp yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>File filter</source>
+        <translation>Dosya filtresi</translation>
+    </message>
+    <message>
+        <source>Exclusion list</source>
+        <translation>Hariç tutma listesi</translation>
+    </message>
+    <message>
+        <source>The folders that you cleared will be removed from this computer. They stay on the hub.</source>
+        <translation>Seçimini kaldırdığınız klasörler bu bilgisayardan kaldırılacak. Hub’da kalmaya devam edecekler.</translation>
+    </message>
+    <message>
+        <source>Conflict handling</source>
+        <translation>Çakışmaların çözümü</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Yükleniyor...</translation>
+    </message>
+    <message>
+        <source>Sync mode</source>
+        <translation>Senkronizasyon modu</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Duraklatıldı</translation>
+    </message>
+    <message>
+        <source>The folder is a mount point and cannot be synced. Please choose another folder.</source>
+        <translation>Klasör bir bağlama noktası olduğu için senkronize edilemez. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>The download of &quot;%1&quot; was canceled.</source>
+        <translation>“%1” indirmesi iptal edildi.</translation>
+    </message>
+    <message>
+        <source>Start now</source>
+        <translation>Şimdi başlat</translation>
+    </message>
+    <message>
+        <source>Synchronization has stopped because the disk of this computer is full.</source>
+        <translation>Bu bilgisayarın diski dolu olduğu için senkronizasyon durdu.</translation>
+    </message>
+    <message>
+        <source>Synchronization has stopped because your storage quota on the hub is used up.</source>
+        <translation>Hub’daki depolama kotanız dolduğu için senkronizasyon durdu.</translation>
+    </message>
+    <message>
+        <source>Linking...</source>
+        <translation>Eşleştiriliyor...</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>İzin verilmedi</translation>
+    </message>
+    <message>
+        <source>Your account information could not be retrieved from the hub.</source>
+        <translation>Hesap bilgileriniz hub’dan alınamadı.</translation>
+    </message>
+    <message>
+        <source>Computer name</source>
+        <translation>Bilgisayar adı</translation>
+    </message>
+    <message>
+        <source>The connection is unstable</source>
+        <translation>Bağlantı kararsız</translation>
+    </message>
+    <message>
+        <source>Get link</source>
+        <translation>Bağlantı al</translation>
+    </message>
+    <message>
+        <source>Linking this computer to the hub...</source>
+        <translation>Bu bilgisayar hub ile eşleştiriliyor...</translation>
+    </message>
+    <message>
+        <source>Trying to sync...</source>
+        <translation>Senkronizasyon deneniyor...</translation>
+    </message>
+    <message>
+        <source>Viewer</source>
+        <translation>Görüntüleyen</translation>
+    </message>
+    <message>
+        <source>Certificate warning</source>
+        <translation>Sertifika uyarısı</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Duraklat</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Sürdür</translation>
+    </message>
+    <message>
+        <source>Exclusion rules</source>
+        <translation>Hariç tutma kuralları</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Eylem</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dosya adı</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>Kimlik</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Devre dışı</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Etkin</translation>
+    </message>
+    <message>
+        <source>If you stop syncing this shared folder, later changes will not be transferred. The local files will be kept.</source>
+        <translation>Bu paylaşılan klasörün senkronizasyonunu durdurursanız sonraki değişiklikler aktarılmayacak. Yerel dosyalar korunacak.</translation>
+    </message>
+    <message>
+        <source>Enable SSL encryption</source>
+        <translation>SSL şifrelemeyi etkinleştir</translation>
+    </message>
+    <message>
+        <source>Select the folder on this computer that you want to sync with the hub.</source>
+        <translation>Bu bilgisayarda, hub ile senkronize etmek istediğiniz klasörü seçin.</translation>
+    </message>
+    <message>
+        <source>has been shared with you.</source>
+        <translation>sizinle paylaşıldı.</translation>
+    </message>
+    <message>
+        <source>New share</source>
+        <translation>Yeni paylaşım</translation>
+    </message>
+    <message>
+        <source>Download completed</source>
+        <translation>İndirme tamamlandı</translation>
+    </message>
+    <message>
+        <source>Download failed</source>
+        <translation>İndirme başarısız oldu</translation>
+    </message>
+    <message>
+        <source>Hub overview</source>
+        <translation>Hub’a genel bakış</translation>
+    </message>
+    <message>
+        <source>The hub at this address has changed. Please link this computer again.</source>
+        <translation>Bu adresteki hub değişti. Bu bilgisayarı yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>Synchronization is paused.</source>
+        <translation>Senkronizasyon duraklatıldı.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub is not trusted.</source>
+        <translation>Hub’ın SSL sertifikası güvenilir değil.</translation>
+    </message>
+    <message>
+        <source>Synchronization is in progress.</source>
+        <translation>Senkronizasyon sürüyor.</translation>
+    </message>
+    <message>
+        <source>The client is too old for the hub. Please update the client.</source>
+        <translation>İstemci, hub için çok eski. İstemciyi güncelleyin.</translation>
+    </message>
+    <message>
+        <source>This folder is already part of a Tessaly backup task. Please choose another folder.</source>
+        <translation>Bu klasör zaten bir Tessaly yedekleme görevinde yer alıyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>This task is inactive because the hub cannot be reached.</source>
+        <translation>Hub’a ulaşılamadığı için bu görev etkin değil.</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Etkin değil</translation>
+    </message>
+    <message>
+        <source>The file cannot be downloaded. Please check your connection and your permissions.</source>
+        <translation>Dosya indirilemiyor. Bağlantınızı ve izinlerinizi kontrol edin.</translation>
+    </message>
+    <message>
+        <source>The version history of this file is not available.</source>
+        <translation>Bu dosyanın sürüm geçmişi kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>A link cannot be created for this item.</source>
+        <translation>Bu öğe için bağlantı oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>Beklemede</translation>
+    </message>
+    <message>
+        <source>When the tray icon is double-clicked</source>
+        <translation>Tepsi simgesine çift tıklandığında</translation>
+    </message>
+    <message>
+        <source>The hub is indexing this folder. Please wait.</source>
+        <translation>Hub bu klasörün dizinini oluşturuyor. Lütfen bekleyin.</translation>
+    </message>
+    <message>
+        <source>Initialization failed. Please restart the application.</source>
+        <translation>Başlatma başarısız oldu. Uygulamayı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Setup cannot replace files that other applications have open.</source>
+        <translation>Kurulum, başka uygulamalarda açık olan dosyaları değiştiremiyor.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Yazdır</translation>
+    </message>
+    <message>
+        <source>Leave the applications open. You will have to restart the computer afterward.</source>
+        <translation>Uygulamaları açık bırak. Daha sonra bilgisayarı yeniden başlatmanız gerekecek.</translation>
+    </message>
+    <message>
+        <source>Puts back missing or damaged program files, shortcuts, and registry entries.</source>
+        <translation>Eksik veya hasarlı program dosyalarını, kısayolları ve kayıt defteri girdilerini yeniden oluşturur.</translation>
+    </message>
+    <message>
+        <source>Launch [ProductName]</source>
+        <translation>[ProductName] programını başlat</translation>
+    </message>
+    <message>
+        <source>[ProductName] will keep your files safe and in sync.</source>
+        <translation>[ProductName] dosyalarınızı güvende ve senkronize tutacak.</translation>
+    </message>
+    <message>
+        <source>Click Finish to close Setup.</source>
+        <translation>Kurulum’u kapatmak için Son düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>The drive that holds the local folder is not connected.</source>
+        <translation>Yerel klasörün bulunduğu sürücü takılı değil.</translation>
+    </message>
+    <message>
+        <source>Repair [ProductName]</source>
+        <translation>[ProductName] ürününü onar</translation>
+    </message>
+    <message>
+        <source>Browse previous versions</source>
+        <translation>Önceki sürümlere göz at</translation>
+    </message>
+    <message>
+        <source>What would you like to do?</source>
+        <translation>Ne yapmak istiyorsunuz?</translation>
+    </message>
+    <message>
+        <source>[ProductName] is being installed on your computer.</source>
+        <translation>[ProductName] bilgisayarınıza yükleniyor.</translation>
+    </message>
+    <message>
+        <source>Download only</source>
+        <translation>Yalnızca indir</translation>
+    </message>
+    <message>
+        <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
+        <translation>Bir hata oluştu ve [ProductName] yüklenmedi. Kurulum’un yaptığı tüm değişiklikler geri alındı. Kurulum’u istediğiniz zaman yeniden çalıştırabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Yoksay</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>Information about this computer and the hub that it is linked to.</source>
+        <translation>Bu bilgisayar ve eşleştirildiği hub hakkında bilgiler.</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Durum:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Yükle</translation>
+    </message>
+    <message>
+        <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
+        <translation>Bu sihirbazla [ProductName] uygulamasını değiştirebilir, onarabilir veya kaldırabilirsiniz. Devam etmek için İleri, Kurulum’dan çıkmak için İptal düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Remove [ProductName]</source>
+        <translation>[ProductName] ürününü kaldır</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Salt okunur</translation>
+    </message>
+    <message>
+        <source>License agreement</source>
+        <translation>Lisans sözleşmesi</translation>
+    </message>
+    <message>
+        <source>These applications have files open that [ProductName] Setup needs to replace:</source>
+        <translation>Aşağıdaki uygulamalarda, [ProductName] Kurulumu’nun değiştirmesi gereken açık dosyalar var:</translation>
+    </message>
+    <message>
+        <source>Sync activity</source>
+        <translation>Senkronizasyon etkinliği</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Onar</translation>
+    </message>
+    <message>
+        <source>Installing [ProductName]</source>
+        <translation>[ProductName] yükleniyor</translation>
+    </message>
+    <message>
+        <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
+        <translation>Yerel klasör eksik. Taşınmış, adı değiştirilmiş veya silinmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>Do you really want to cancel the installation of [ProductName]?</source>
+        <translation>[ProductName] yüklemesini gerçekten iptal etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Please read the agreement before you continue.</source>
+        <translation>Devam etmeden önce sözleşmeyi okuyun.</translation>
+    </message>
+    <message>
+        <source>Close the applications now and reopen them when Setup is done.</source>
+        <translation>Uygulamaları şimdi kapat ve Kurulum bitince yeniden aç.</translation>
+    </message>
+    <message>
+        <source>Files in use</source>
+        <translation>Kullanımdaki dosyalar</translation>
+    </message>
+    <message>
+        <source>Close the applications and click Retry. If you click Ignore, [ProductName] will be complete only after the next restart of the computer.</source>
+        <translation>Uygulamaları kapatıp Yeniden dene düğmesine tıklayın. Yoksay düğmesine tıklarsanız [ProductName] ancak bilgisayar bir sonraki kez yeniden başlatıldığında tamamlanır.</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Değiştir</translation>
+    </message>
+    <message>
+        <source>Choose which features are installed and where.</source>
+        <translation>Hangi özelliklerin nereye yükleneceğini seçin.</translation>
+    </message>
+    <message>
+        <source>[ProductName] is always installed with all its features.</source>
+        <translation>[ProductName] her zaman tüm özellikleriyle yüklenir.</translation>
+    </message>
+    <message>
+        <source>Change [ProductName]</source>
+        <translation>[ProductName] ürününü değiştir</translation>
+    </message>
+    <message>
+        <source>You can change, repair, or remove the installed program.</source>
+        <translation>Yüklü programı değiştirebilir, onarabilir veya kaldırabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Removes the program and its settings from your computer.</source>
+        <translation>Programı ve ayarlarını bilgisayarınızdan kaldırır.</translation>
+    </message>
+    <message>
+        <source>This may take several minutes.</source>
+        <translation>Bu işlem birkaç dakika sürebilir.</translation>
+    </message>
+    <message>
+        <source>Ready to install [ProductName]</source>
+        <translation>[ProductName] yüklenmeye hazır</translation>
+    </message>
+    <message>
+        <source>Tessaly can now be installed. Click Install to start or Back to check your settings.</source>
+        <translation>Tessaly artık yüklenebilir. Başlamak için Yükle, ayarlarınızı kontrol etmek için Geri düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Setup is about to remove the program.</source>
+        <translation>Kurulum, programı kaldırmak üzere.</translation>
+    </message>
+    <message>
+        <source>Ready to remove [ProductName]</source>
+        <translation>[ProductName] kaldırılmaya hazır</translation>
+    </message>
+    <message>
+        <source>Click Remove to remove [ProductName] from this computer. Your synced files will be kept.</source>
+        <translation>[ProductName] uygulamasını bu bilgisayardan kaldırmak için Kaldır düğmesine tıklayın. Senkronize edilen dosyalarınız korunacak.</translation>
+    </message>
+    <message>
+        <source>Setup is about to repair the program.</source>
+        <translation>Kurulum, programı onarmak üzere.</translation>
+    </message>
+    <message>
+        <source>Ready to repair [ProductName]</source>
+        <translation>[ProductName] onarılmaya hazır</translation>
+    </message>
+    <message>
+        <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
+        <translation>Başlamak için Onar, başka bir eylem seçmek için Geri, Kurulum’dan çıkmak için İptal düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
+        <translation>[ProductName] yüklenmeden Kurulum’dan çıktınız. Bilgisayarınızda hiçbir şey değişmedi. Kurulum’u istediğiniz zaman yeniden çalıştırabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
+        <translation>Bu sihirbaz [ProductName] uygulamasını bilgisayarınıza yükleyecek. Devam etmek için İleri, Kurulum’dan çıkmak için İptal düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Başlangıç</translation>
+    </message>
+    <message>
+        <source>Welcome to [ProductName] Setup</source>
+        <translation>[ProductName] Kurulumu’na hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>[ProductName] is now installed</source>
+        <translation>[ProductName] yüklendi</translation>
+    </message>
+    <message>
+        <source>Setup of [ProductName] was canceled</source>
+        <translation>[ProductName] kurulumu iptal edildi</translation>
+    </message>
+    <message>
+        <source>Download history</source>
+        <translation>İndirme geçmişi</translation>
+    </message>
+    <message>
+        <source>Link to a new hub</source>
+        <translation>Yeni bir hub ile eşleştir</translation>
+    </message>
+    <message>
+        <source>[ProductName] could not be installed</source>
+        <translation>[ProductName] yüklenemedi</translation>
+    </message>
+    <message>
+        <source>Synchronization enabled</source>
+        <translation>Senkronizasyon etkin</translation>
+    </message>
+    <message>
+        <source>Add task</source>
+        <translation>Görev ekle</translation>
+    </message>
+    <message>
+        <source>I accept the license agreement</source>
+        <translation>Lisans sözleşmesini kabul ediyorum</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Sıfırla</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Klasörler</translation>
+    </message>
+    <message>
+        <source>Your files, up to date on every device.</source>
+        <translation>Dosyalarınız her cihazınızda güncel.</translation>
+    </message>
+    <message>
+        <source>This is not the hub that %1 was linked to. Please link this computer again.</source>
+        <translation>Bu hub, %1 ile eşleştirilmiş olan hub değil. Bu bilgisayarı yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>Sharing is disabled for your account.</source>
+        <translation>Hesabınız için paylaşım devre dışı.</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
+        <translation>“%1” görevi duracak ve hub bağlantısı kaldırılacak. Her iki taraftaki dosyalar korunacak.</translation>
+    </message>
+    <message>
+        <source>Open containing folder</source>
+        <translation>Dosyanın bulunduğu klasörü aç</translation>
+    </message>
+    <message>
+        <source>The address of the file could not be retrieved from the hub.</source>
+        <translation>Dosyanın adresi hub’dan alınamadı.</translation>
+    </message>
+    <message>
+        <source>Choose the folder on this computer where your files are stored.</source>
+        <translation>Bu bilgisayarda dosyalarınızın saklandığı klasörü seçin.</translation>
+    </message>
+    <message>
+        <source>The hub has changed</source>
+        <translation>Hub değişti</translation>
+    </message>
+    <message>
+        <source>The shared folder &quot;%1&quot; is not mounted on the hub.</source>
+        <translation>“%1” paylaşılan klasörü hub’da bağlı değil.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Bugün</translation>
+    </message>
+    <message>
+        <source>The volume of the remote folder is not mounted on the hub.</source>
+        <translation>Uzak klasörün birimi hub’da bağlı değil.</translation>
+    </message>
+    <message>
+        <source>Folder location</source>
+        <translation>Klasör konumu</translation>
+    </message>
+    <message>
+        <source>Sync to this computer</source>
+        <translation>Bu bilgisayarla senkronize et</translation>
+    </message>
+    <message>
+        <source>You are not signed in as an administrator, so some features may not be installed. Do you want to continue?</source>
+        <translation>Yönetici olarak oturum açmadığınız için bazı özellikler yüklenmeyebilir. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Sync, share, and protect your files</source>
+        <translation>Dosyalarınızı senkronize edin, paylaşın ve koruyun</translation>
+    </message>
+    <message>
+        <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
+        <translation>Ferrylink üzerinden dosya paylaşımı hub’da devre dışı. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Dün</translation>
+    </message>
+    <message>
+        <source>Choose how you want to set up Tessaly.</source>
+        <translation>Tessaly uygulamasını nasıl ayarlamak istediğinizi seçin.</translation>
+    </message>
+    <message>
+        <source>Quick setup</source>
+        <translation>Hızlı kurulum</translation>
+    </message>
+    <message>
+        <source>Items %1 to %2 of %3</source>
+        <translation>%1–%2 arası öğeler, toplam %3</translation>
+    </message>
+    <message>
+        <source>Got it</source>
+        <translation>Anladım</translation>
+    </message>
+    <message>
+        <source>The item was deleted, or you no longer have permission to access it.</source>
+        <translation>Öğe silinmiş veya artık öğeye erişim izniniz yok.</translation>
+    </message>
+    <message>
+        <source>Right-click a file or folder to share it, get a link, or browse its previous versions.</source>
+        <translation>Bir dosyayı veya klasörü paylaşmak, bağlantısını almak ya da önceki sürümlerine göz atmak için öğeye sağ tıklayın.</translation>
+    </message>
+    <message>
+        <source>Date range</source>
+        <translation>Tarih aralığı</translation>
+    </message>
+    <message>
+        <source>Stop syncing this folder</source>
+        <translation>Bu klasörü senkronize etmeyi durdur</translation>
+    </message>
+    <message>
+        <source>%1 hours ago</source>
+        <translation>%1 saat önce</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
+        <translation>Hub’da bir klasör ve bu bilgisayarda bir klasör seçin. İçerikleri her zaman aynı olacak.</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mayıs</translation>
+    </message>
+    <message>
+        <source>This computer is already linked</source>
+        <translation>Bu bilgisayar zaten eşleştirilmiş</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Adı değiştirildi</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>%1 gün önce</translation>
+    </message>
+    <message>
+        <source>Just now</source>
+        <translation>Az önce</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 dakika önce</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Geçen ay</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>Anahtar sözcük</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bitiş</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Last week</source>
+        <translation>Geçen hafta</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>Nisan</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>Şubat</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>Ağustos</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Ara</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>Ekim</translation>
+    </message>
+    <message>
+        <source>Sync this folder again</source>
+        <translation>Bu klasörü yeniden senkronize et</translation>
+    </message>
+    <message>
+        <source>Stop syncing these folders</source>
+        <translation>Bu klasörleri senkronize etmeyi durdur</translation>
+    </message>
+    <message>
+        <source>No history to show</source>
+        <translation>Gösterilecek geçmiş yok</translation>
+    </message>
+    <message>
+        <source>Sync these folders again</source>
+        <translation>Bu klasörleri yeniden senkronize et</translation>
+    </message>
+    <message>
+        <source>Send to</source>
+        <translation>Şuraya gönder</translation>
+    </message>
+    <message>
+        <source>January</source>
+        <translation>Ocak</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>Kasım</translation>
+    </message>
+    <message>
+        <source>Now syncing</source>
+        <translation>Senkronize ediliyor</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>Eylül</translation>
+    </message>
+    <message>
+        <source>All events</source>
+        <translation>Tüm olaylar</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>Temmuz</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Tarih</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>Haziran</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>Mart</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>Aralık</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dosya türü</translation>
+    </message>
+    <message>
+        <source>Advanced setup</source>
+        <translation>Gelişmiş kurulum</translation>
+    </message>
+    <message>
+        <source>Do not show this message again</source>
+        <translation>Bu iletiyi bir daha gösterme</translation>
+    </message>
+    <message>
+        <source>Start syncing in one step with the recommended settings.</source>
+        <translation>Önerilen ayarlarla tek adımda senkronizasyona başlayın.</translation>
+    </message>
+    <message>
+        <source>Your home folder on the hub and the new folder on this computer are now kept identical.</source>
+        <translation>Hub’daki ana klasörünüz ile bu bilgisayardaki yeni klasörün içeriği artık her zaman aynı olacak.</translation>
+    </message>
+    <message>
+        <source>Setup is complete</source>
+        <translation>Kurulum tamamlandı</translation>
+    </message>
+    <message>
+        <source>Put files into the synced folder, and they appear on the hub and on all your other computers.</source>
+        <translation>Dosyaları senkronize edilen klasöre koyun; hub’da ve diğer tüm bilgisayarlarınızda görünürler.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to see the sync status and the files that were changed last.</source>
+        <translation>Senkronizasyon durumunu ve son değiştirilen dosyaları görmek için tepsi simgesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Setup mode</source>
+        <translation>Kurulum modu</translation>
+    </message>
+    <message>
+        <source>No, thanks</source>
+        <translation>Hayır, teşekkürler</translation>
+    </message>
+    <message>
+        <source>Sync your files</source>
+        <translation>Dosyalarınızı senkronize edin</translation>
+    </message>
+    <message>
+        <source>Keep an eye on changes</source>
+        <translation>Değişiklikleri izleyin</translation>
+    </message>
+    <message>
+        <source>Find hubs on the local network</source>
+        <translation>Yerel ağda hub bul</translation>
+    </message>
+    <message>
+        <source>Status information</source>
+        <translation>Durum bilgileri</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Güncelleme var</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>Kullanıcı: %1</translation>
+    </message>
+    <message>
+        <source>This file does not belong to a sync task.</source>
+        <translation>Bu dosya bir senkronizasyon görevine ait değil.</translation>
+    </message>
+    <message>
+        <source>Open main window</source>
+        <translation>Ana pencereyi aç</translation>
+    </message>
+    <message>
+        <source>Link this computer to another hub</source>
+        <translation>Bu bilgisayarı başka bir hub ile eşleştir</translation>
+    </message>
+    <message>
+        <source>Sync another folder with this hub</source>
+        <translation>Bu hub ile başka bir klasörü senkronize et</translation>
+    </message>
+    <message>
+        <source>New sync task</source>
+        <translation>Yeni senkronizasyon görevi</translation>
+    </message>
+    <message>
+        <source>Choose the folders, the sync direction, and the filters yourself.</source>
+        <translation>Klasörleri, senkronizasyon yönünü ve filtreleri kendiniz seçin.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Bitti</translation>
+    </message>
+    <message>
+        <source>Files larger than %1 MB will not be synced.</source>
+        <translation>%1 MB boyutundan büyük dosyalar senkronize edilmeyecek.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Klasörü aç</translation>
+    </message>
+    <message>
+        <source>This folder cannot be synced. Please choose another one.</source>
+        <translation>Bu klasör senkronize edilemez. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Search the local network for hubs</source>
+        <translation>Yerel ağda hub ara</translation>
+    </message>
+    <message>
+        <source>You only have read access to this shared folder. Files will be downloaded but not uploaded.</source>
+        <translation>Bu paylaşılan klasör için yalnızca okuma izniniz var. Dosyalar indirilecek ancak karşıya yüklenmeyecek.</translation>
+    </message>
+    <message>
+        <source>Find more guides in the &lt;a href=&quot;https://help.kelvane.example/tutorials&quot;&gt;tutorials&lt;/a&gt;.</source>
+        <translation>&lt;a href=&quot;https://help.kelvane.example/tutorials&quot;&gt;Öğreticilerde&lt;/a&gt; daha fazla kılavuz bulabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>This folder is inside or above a folder that is already synced. Please choose another folder.</source>
+        <translation>Bu klasör, zaten senkronize edilen bir klasörün alt veya üst klasörü. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Open file</source>
+        <translation>Dosyayı aç</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to the hub &quot;%1&quot;.</source>
+        <translation>Bu bilgisayar “%1” hub’ı ile zaten eşleştirilmiş.</translation>
+    </message>
+    <message>
+        <source>A folder named &quot;Tessaly&quot; will be created at this location.</source>
+        <translation>Bu konumda “Tessaly” adlı bir klasör oluşturulacak.</translation>
+    </message>
+    <message>
+        <source>If you continue, the existing link will be replaced.</source>
+        <translation>Devam ederseniz var olan eşleştirmenin yerini yenisi alacak.</translation>
+    </message>
+    <message>
+        <source>The hub is offline.</source>
+        <translation>Hub çevrimdışı.</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Ana klasör</translation>
+    </message>
+    <message>
+        <source>A link cannot be created because Norvik is not available on the hub.</source>
+        <translation>Norvik hub’da kullanılamadığı için bağlantı oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub has changed. Please confirm the new certificate.</source>
+        <translation>Hub’ın SSL sertifikası değişti. Yeni sertifikayı onaylayın.</translation>
+    </message>
+    <message>
+        <source>Set the folders to sync</source>
+        <translation>Senkronize edilecek klasörleri ayarlayın</translation>
+    </message>
+    <message>
+        <source>The sync direction does not match your permissions on the remote folder.</source>
+        <translation>Senkronizasyon yönü, uzak klasördeki izinlerinizle uyuşmuyor.</translation>
+    </message>
+    <message>
+        <source>The IP address of this computer is blocked by the hub. Please contact your administrator.</source>
+        <translation>Bu bilgisayarın IP adresi hub tarafından engellendi. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>When a file was changed on both sides:</source>
+        <translation>Bir dosya her iki tarafta da değiştirildiğinde:</translation>
+    </message>
+    <message>
+        <source>Welcome to the setup wizard</source>
+        <translation>Kurulum sihirbazına hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Son sayfa</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>İlk sayfa</translation>
+    </message>
+    <message>
+        <source>Previous %1 pages</source>
+        <translation>Önceki %1 sayfa</translation>
+    </message>
+    <message>
+        <source>Next %1 pages</source>
+        <translation>Sonraki %1 sayfa</translation>
+    </message>
+    <message>
+        <source>Unlinking...</source>
+        <translation>Eşleşme kaldırılıyor...</translation>
+    </message>
+    <message>
+        <source>Too many failed attempts. Please try again later.</source>
+        <translation>Çok fazla başarısız deneme. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be checked because the connection to the hub failed.</source>
+        <translation>Hub’a bağlanılamadığı için klasör kontrol edilemiyor.</translation>
+    </message>
+    <message>
+        <source>The shared folder no longer exists on the hub.</source>
+        <translation>Paylaşılan klasör artık hub’da yok.</translation>
+    </message>
+    <message>
+        <source>Sync folders</source>
+        <translation>Senkronize klasörler</translation>
+    </message>
+    <message>
+        <source>Keep the version that was modified last</source>
+        <translation>En son değiştirilen sürümü koru</translation>
+    </message>
+    <message>
+        <source>Two-way sync</source>
+        <translation>İki yönlü senkronizasyon</translation>
+    </message>
+    <message>
+        <source>Choose which folder on the hub to sync with which folder on this computer.</source>
+        <translation>Hub’daki hangi klasörün bu bilgisayardaki hangi klasörle senkronize edileceğini seçin.</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>Paylaşılan klasör</translation>
+    </message>
+    <message>
+        <source>requested access to the Bureau template</source>
+        <translation>şu Bureau şablonu için erişim istedi:</translation>
+    </message>
+    <message>
+        <source>The folder is already used by another sync task on this computer.</source>
+        <translation>Klasör, bu bilgisayardaki başka bir senkronizasyon görevinde zaten kullanılıyor.</translation>
+    </message>
+    <message>
+        <source>%1 requested access to the Bureau template &quot;%2&quot;.</source>
+        <translation>%1, “%2” Bureau şablonu için erişim istedi.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be checked because the SSL certificate of the hub has changed.</source>
+        <translation>Hub’ın SSL sertifikası değiştiği için klasör kontrol edilemiyor.</translation>
+    </message>
+    <message>
+        <source>Please enter the verification code.</source>
+        <translation>Doğrulama kodunu girin.</translation>
+    </message>
+    <message>
+        <source>The verification code is incorrect. Please try again.</source>
+        <translation>Doğrulama kodu yanlış. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Enter the 6-digit verification code</source>
+        <translation>6 basamaklı doğrulama kodunu girin</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Your storage quota on the volume of this folder is used up.</source>
+        <translation>Bu klasörün bulunduğu birimdeki depolama kotanız doldu.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be checked because the SSL certificate of the hub is not trusted.</source>
+        <translation>Hub’ın SSL sertifikası güvenilir olmadığı için klasör kontrol edilemiyor.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be checked because of a system error on the hub.</source>
+        <translation>Hub’daki bir sistem hatası nedeniyle klasör kontrol edilemiyor.</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>Senkronizasyon</translation>
+    </message>
+    <message>
+        <source>Always keep the version on the hub</source>
+        <translation>Her zaman hub’daki sürümü koru</translation>
+    </message>
+    <message>
+        <source>Rename conflicting files and keep both versions</source>
+        <translation>Çakışan dosyaların adını değiştir ve her iki sürümü de koru</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Özet</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the Bureau template &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” Bureau şablonu için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>The contents of both folders will be merged. No file will be deleted.</source>
+        <translation>Her iki klasörün içeriği birleştirilecek. Hiçbir dosya silinmeyecek.</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Hesap</translation>
+    </message>
+    <message>
+        <source>List of connections</source>
+        <translation>Bağlantı listesi</translation>
+    </message>
+    <message>
+        <source>Connected hub</source>
+        <translation>Bağlı hub</translation>
+    </message>
+    <message>
+        <source>Copy the sharing link</source>
+        <translation>Paylaşım bağlantısını kopyala</translation>
+    </message>
+    <message>
+        <source>Remove this user&apos;s permission</source>
+        <translation>Bu kullanıcının iznini kaldır</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Grup: %1</translation>
+    </message>
+    <message>
+        <source>Open the web portal of Tessaly</source>
+        <translation>Tessaly web portalını aç</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Bu bilgisayar</translation>
+    </message>
+    <message>
+        <source>Linked hub</source>
+        <translation>Eşleştirilmiş hub</translation>
+    </message>
+    <message>
+        <source>Sync task for the files that others share with you</source>
+        <translation>Başkalarının sizinle paylaştığı dosyalar için senkronizasyon görevi</translation>
+    </message>
+    <message>
+        <source>Recently changed files tab</source>
+        <translation>Son değiştirilen dosyalar sekmesi</translation>
+    </message>
+    <message>
+        <source>Tutorial page 2: sync your files</source>
+        <translation>Öğretici sayfa 2: dosyalarınızı senkronize edin</translation>
+    </message>
+    <message>
+        <source>Tutorial page 3: keep an eye on changes</source>
+        <translation>Öğretici sayfa 3: değişiklikleri izleyin</translation>
+    </message>
+    <message>
+        <source>Tutorial page 4: share with others</source>
+        <translation>Öğretici sayfa 4: başkalarıyla paylaşın</translation>
+    </message>
+    <message>
+        <source>Choose a sharing permission</source>
+        <translation>Paylaşım izni seçin</translation>
+    </message>
+    <message>
+        <source>Tessaly keeps the files on your computers and on the hub identical.</source>
+        <translation>Tessaly, bilgisayarlarınızdaki ve hub’daki dosyaları hep aynı tutar.</translation>
+    </message>
+    <message>
+        <source>hours</source>
+        <translation>saatte bir</translation>
+    </message>
+    <message>
+        <source>Hub</source>
+        <translation>Hub</translation>
+    </message>
+    <message>
+        <source>Open my folder</source>
+        <translation>Klasörümü aç</translation>
+    </message>
+    <message>
+        <source>Shared folder not found</source>
+        <translation>Paylaşılan klasör bulunamadı</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Sürüm %1</translation>
+    </message>
+    <message>
+        <source>The hub requires 2-factor authentication. Please set it up in the web portal and sign in again.</source>
+        <translation>Hub iki faktörlü kimlik doğrulama gerektiriyor. Web portalında ayarlayıp yeniden oturum açın.</translation>
+    </message>
+    <message>
+        <source>The quota of the shared folder is used up.</source>
+        <translation>Paylaşılan klasörün kotası doldu.</translation>
+    </message>
+    <message>
+        <source>Some fields contain invalid values. Please check the highlighted fields.</source>
+        <translation>Bazı alanlarda geçersiz değerler var. Vurgulanan alanları kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Sync direction</source>
+        <translation>Senkronizasyon yönü</translation>
+    </message>
+    <message>
+        <source>Something went wrong in one of your tasks. Open the main window for details.</source>
+        <translation>Görevlerinizden birinde bir sorun oluştu. Ayrıntılar için ana pencereyi açın.</translation>
+    </message>
+    <message>
+        <source>Only shared folders that have been enabled in Tessaly Server are listed here.</source>
+        <translation>Burada yalnızca Tessaly Server uygulamasında etkinleştirilmiş paylaşılan klasörler listelenir.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to access this folder.</source>
+        <translation>Bu klasöre erişim izniniz yok.</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Expires after</source>
+        <translation>Geçerlilik süresi</translation>
+    </message>
+    <message>
+        <source>No actions available</source>
+        <translation>Kullanılabilir eylem yok</translation>
+    </message>
+    <message>
+        <source>The username or password is incorrect. Please sign in again.</source>
+        <translation>Kullanıcı adı veya parola yanlış. Yeniden oturum açın.</translation>
+    </message>
+    <message>
+        <source>Enter a full file name, such as &quot;desktop.ini&quot;, and press Enter.</source>
+        <translation>“desktop.ini” gibi tam bir dosya adı yazıp Enter tuşuna basın.</translation>
+    </message>
+    <message>
+        <source>A folder with this name already exists. Please choose another name.</source>
+        <translation>Bu ada sahip bir klasör zaten var. Başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>Compare all file attributes when looking for changes</source>
+        <translation>Değişiklikleri ararken tüm dosya özniteliklerini karşılaştır</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Geçerlilik bitişi</translation>
+    </message>
+    <message>
+        <source>This field cannot be left blank.</source>
+        <translation>Bu alan boş bırakılamaz.</translation>
+    </message>
+    <message>
+        <source>Restrict access</source>
+        <translation>Erişimi kısıtla</translation>
+    </message>
+    <message>
+        <source>Show sync actions in the context menu of files and folders</source>
+        <translation>Dosya ve klasörlerin bağlam menüsünde senkronizasyon eylemlerini göster</translation>
+    </message>
+    <message>
+        <source>The user home service is disabled on the hub. Please contact your administrator.</source>
+        <translation>Kullanıcı ana klasörü hizmeti hub’da devre dışı. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
+        <translation>Güncelleme başarısız oldu. &lt;a href=&quot;%1&quot;&gt;En son sürümü indirip&lt;/a&gt; elle yükleyin.</translation>
+    </message>
+    <message>
+        <source>Apply and copy link</source>
+        <translation>Uygula ve bağlantıyı kopyala</translation>
+    </message>
+    <message>
+        <source>Limit the number of visits</source>
+        <translation>Ziyaret sayısını sınırla</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Geçerlilik başlangıcı</translation>
+    </message>
+    <message>
+        <source>The hub requires a newer version of the client. Do you want to update now?</source>
+        <translation>Hub, istemcinin daha yeni bir sürümünü gerektiriyor. Şimdi güncellemek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>The remote folder is on a volume that is not mounted.</source>
+        <translation>Uzak klasör, bağlı olmayan bir birimde bulunuyor.</translation>
+    </message>
+    <message>
+        <source>Show information</source>
+        <translation>Bilgileri göster</translation>
+    </message>
+    <message>
+        <source>Add a file name</source>
+        <translation>Dosya adı ekle</translation>
+    </message>
+    <message>
+        <source>Folder on this computer</source>
+        <translation>Bu bilgisayardaki klasör</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>Dil seçin</translation>
+    </message>
+    <message>
+        <source>List of the file versions that are being downloaded</source>
+        <translation>İndirilmekte olan dosya sürümlerinin listesi</translation>
+    </message>
+    <message>
+        <source>Customize the validity period</source>
+        <translation>Geçerlilik süresini özelleştir</translation>
+    </message>
+    <message>
+        <source>Show the tutorial of %1</source>
+        <translation>%1 öğreticisini göster</translation>
+    </message>
+    <message>
+        <source>Change the sync folder</source>
+        <translation>Senkronize edilen klasörü değiştir</translation>
+    </message>
+    <message>
+        <source>Linked sync folder</source>
+        <translation>Eşleştirilmiş senkronize klasör</translation>
+    </message>
+    <message>
+        <source>Refresh the history</source>
+        <translation>Geçmişi yenile</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Önceki ay</translation>
+    </message>
+    <message>
+        <source>Enter a keyword to search the history</source>
+        <translation>Geçmişte aramak için bir anahtar sözcük girin</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Klasör ekle</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Takvim</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Sonraki ay</translation>
+    </message>
+    <message>
+        <source>Choose a type of event</source>
+        <translation>Olay türü seçin</translation>
+    </message>
+    <message>
+        <source>Sync task &quot;%1&quot;</source>
+        <translation>“%1” senkronizasyon görevi</translation>
+    </message>
+    <message>
+        <source>Folder on the hub</source>
+        <translation>Hub’daki klasör</translation>
+    </message>
+    <message>
+        <source>Settings window</source>
+        <translation>Ayarlar penceresi</translation>
+    </message>
+    <message>
+        <source>Close the tutorial</source>
+        <translation>Öğreticiyi kapat</translation>
+    </message>
+    <message>
+        <source>Cancel this download</source>
+        <translation>Bu indirmeyi iptal et</translation>
+    </message>
+    <message>
+        <source>Remove this download from the list</source>
+        <translation>Bu indirmeyi listeden kaldır</translation>
+    </message>
+    <message>
+        <source>Your password has expired. Please change it in the web portal and sign in again.</source>
+        <translation>Parolanızın süresi doldu. Web portalında değiştirip yeniden oturum açın.</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Düzenleyen</translation>
+    </message>
+    <message>
+        <source>Renamed on this computer</source>
+        <translation>Bu bilgisayarda adı değiştirildi</translation>
+    </message>
+    <message>
+        <source>Renamed on the hub</source>
+        <translation>Hub’da adı değiştirildi</translation>
+    </message>
+    <message>
+        <source>Please enter no more than %1 characters.</source>
+        <translation>En fazla %1 karakter girin.</translation>
+    </message>
+    <message>
+        <source>This is not the account that the task was created with. Please sign in as &quot;%1&quot;.</source>
+        <translation>Görev bu hesapla oluşturulmadı. “%1” olarak oturum açın.</translation>
+    </message>
+    <message>
+        <source>Hub information</source>
+        <translation>Hub bilgileri</translation>
+    </message>
+    <message>
+        <source>The Ferrylink relay service is disabled on the hub.</source>
+        <translation>Ferrylink aktarım hizmeti hub’da devre dışı.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
+        <translation>“%1” indirilemedi. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Signing in to the hub failed. Please check your username and password.</source>
+        <translation>Hub’da oturum açılamadı. Kullanıcı adınızı ve parolanızı kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Bildirimler</translation>
+    </message>
+    <message>
+        <source>commented on</source>
+        <translation>şuna yorum yaptı:</translation>
+    </message>
+    <message>
+        <source>Open in web portal</source>
+        <translation>Web portalında aç</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Ayarla</translation>
+    </message>
+    <message>
+        <source>Open synced folder</source>
+        <translation>Senkronize edilen klasörü aç</translation>
+    </message>
+    <message>
+        <source>You only have read access to this folder. %1 will not upload your changes.</source>
+        <translation>Bu klasör için yalnızca okuma izniniz var. %1, değişikliklerinizi karşıya yüklemeyecek.</translation>
+    </message>
+    <message>
+        <source>%1 is now linked to the hub and will keep your files in sync.</source>
+        <translation>%1 artık hub ile eşleştirildi ve dosyalarınızı senkronize tutacak.</translation>
+    </message>
+    <message>
+        <source>Setup has collected all the information that it needs.</source>
+        <translation>Kurulum, gereken tüm bilgileri topladı.</translation>
+    </message>
+    <message>
+        <source>%1 is ready.</source>
+        <translation>%1 hazır.</translation>
+    </message>
+    <message>
+        <source>%1 is already running.</source>
+        <translation>%1 zaten çalışıyor.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the files on your computers and on the hub identical.</source>
+        <translation>%1, bilgisayarlarınızdaki ve hub’daki dosyaları hep aynı tutar.</translation>
+    </message>
+    <message>
+        <source>Preview and comment</source>
+        <translation>Önizleme ve yorum yapma</translation>
+    </message>
+    <message>
+        <source>%1 could not be updated. Please try again later.</source>
+        <translation>%1 güncellenemedi. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>A newer version of Kelvane Quay Client is already installed. Setup will now exit.</source>
+        <translation>Kelvane Quay Client uygulamasının daha yeni bir sürümü zaten yüklü. Kurulum şimdi kapanacak.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub has changed. If you did not expect this, please contact your administrator before you continue.</source>
+        <translation>Hub’ın SSL sertifikası değişti. Bunu beklemiyorduysanız devam etmeden önce yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Choose what to sync with the new task</source>
+        <translation>Yeni görevle neyin senkronize edileceğini seçin</translation>
+    </message>
+    <message>
+        <source>The folder belongs to Dropbox. Syncing it with %1 as well may cause file conflicts.</source>
+        <translation>Klasör Dropbox’a ait. Bu klasörün ayrıca %1 ile senkronize edilmesi dosya çakışmalarına yol açabilir.</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost. Do you want to continue?</source>
+        <translation>Değişiklikleriniz kaybolacak. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Tutorial of %1</source>
+        <translation>%1 öğreticisi</translation>
+    </message>
+    <message>
+        <source>The Ferrylink ID does not exist, or %1 is not running on the hub.</source>
+        <translation>Ferrylink kimliği mevcut değil veya %1 hub’da çalışmıyor.</translation>
+    </message>
+    <message>
+        <source>Only shared folders that have been enabled in %1 are listed here.</source>
+        <translation>Burada yalnızca %1 içinde etkinleştirilmiş paylaşılan klasörler listelenir.</translation>
+    </message>
+    <message>
+        <source>Start %1 when I sign in to this computer</source>
+        <translation>Bu bilgisayarda oturum açtığımda %1 uygulamasını başlat</translation>
+    </message>
+    <message>
+        <source>%1 is initializing...</source>
+        <translation>%1 başlıyor...</translation>
+    </message>
+    <message>
+        <source>The hub and %1 cannot communicate. Please update both to the latest version.</source>
+        <translation>Hub ile %1 iletişim kuramıyor. İkisini de en son sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is too old for the hub. Please update it.</source>
+        <translation>Bu %1 sürümü hub için çok eski. Uygulamayı güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Version mismatch</source>
+        <translation>Sürüm uyuşmazlığı</translation>
+    </message>
+    <message>
+        <source>The disk is full. Free up some space on this computer so that %1 can continue.</source>
+        <translation>Disk dolu. %1 uygulamasının devam edebilmesi için bu bilgisayarda biraz yer açın.</translation>
+    </message>
+    <message>
+        <source>%1 has encountered a problem. Please restart it.</source>
+        <translation>%1 bir sorunla karşılaştı. Uygulamayı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Notifications tab</source>
+        <translation>Bildirimler sekmesi</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. %1 will merge its files with those on the hub.</source>
+        <translation>Klasör boş değil. %1, klasördeki dosyaları hub’dakilerle birleştirecek.</translation>
+    </message>
+    <message>
+        <source>Only download changes from %1</source>
+        <translation>Yalnızca %1 üzerindeki değişiklikleri indir</translation>
+    </message>
+    <message>
+        <source>%1 is set up. Open your folder to start working.</source>
+        <translation>%1 ayarlandı. Çalışmaya başlamak için klasörünüzü açın.</translation>
+    </message>
+    <message>
+        <source>Tutorial page 1: welcome to Tessaly</source>
+        <translation>Öğretici sayfa 1: Tessaly’ye hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>This version of Kelvane Quay Client is already installed. Do you want to install it again?</source>
+        <translation>Kelvane Quay Client uygulamasının bu sürümü zaten yüklü. Yeniden yüklemek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Set up %1 to sync and back up the files on this computer.</source>
+        <translation>Bu bilgisayardaki dosyaları senkronize etmek ve yedeklemek için %1 uygulamasını ayarlayın.</translation>
+    </message>
+    <message>
+        <source>Almost done! Your files will soon be available in Tessaly Server.</source>
+        <translation>Neredeyse bitti! Dosyalarınız yakında Tessaly Server üzerinde kullanılabilecek.</translation>
+    </message>
+    <message>
+        <source>Almost done! Your files will soon be available on this computer.</source>
+        <translation>Neredeyse bitti! Dosyalarınız yakında bu bilgisayarda kullanılabilecek.</translation>
+    </message>
+    <message>
+        <source>The operation failed. Please try again.</source>
+        <translation>İşlem başarısız oldu. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>A folder named &quot;Kelvane Quay&quot; will be created at this location.</source>
+        <translation>Bu konumda “Kelvane Quay” adlı bir klasör oluşturulacak.</translation>
+    </message>
+    <message>
+        <source>This version of Tessaly is already installed. Do you want to install it again?</source>
+        <translation>Tessaly’nin bu sürümü zaten yüklü. Yeniden yüklemek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>A newer version of Tessaly is already installed. Setup will now exit.</source>
+        <translation>Tessaly’nin daha yeni bir sürümü zaten yüklü. Kurulum şimdi kapanacak.</translation>
+    </message>
+    <message>
+        <source>Tutorial of Tessaly</source>
+        <translation>Tessaly öğreticisi</translation>
+    </message>
+    <message>
+        <source>Tessaly</source>
+        <translation>Tessaly</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Hafta</translation>
+    </message>
+    <message>
+        <source>The folder belongs to Dropbox. Syncing it with Tessaly as well may cause file conflicts.</source>
+        <translation>Klasör Dropbox’a ait. Bu klasörün ayrıca Tessaly ile senkronize edilmesi dosya çakışmalarına yol açabilir.</translation>
+    </message>
+    <message>
+        <source>Tessaly is ready.</source>
+        <translation>Tessaly hazır.</translation>
+    </message>
+    <message>
+        <source>Tessaly is initializing...</source>
+        <translation>Tessaly başlıyor...</translation>
+    </message>
+    <message>
+        <source>The Ferrylink ID does not exist, or Tessaly Server is not running on the hub.</source>
+        <translation>Ferrylink kimliği mevcut değil veya Tessaly Server hub’da çalışmıyor.</translation>
+    </message>
+    <message>
+        <source>This version of Tessaly is too old for the hub. Please update it.</source>
+        <translation>Bu Tessaly sürümü hub için çok eski. Uygulamayı güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Sharing permission</source>
+        <translation>Paylaşım izni</translation>
+    </message>
+    <message>
+        <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
+        <translation>Hub’daki Tessaly Server bu istemci için çok eski. Yöneticinizden güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>Show the tutorial of Tessaly</source>
+        <translation>Tessaly öğreticisini göster</translation>
+    </message>
+    <message>
+        <source>Start Tessaly when I sign in to this computer</source>
+        <translation>Bu bilgisayarda oturum açtığımda Tessaly uygulamasını başlat</translation>
+    </message>
+    <message>
+        <source>Tessaly has encountered a problem. Please restart it.</source>
+        <translation>Tessaly bir sorunla karşılaştı. Uygulamayı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Setup is complete. Your files are now being synced.</source>
+        <translation>Kurulum tamamlandı. Dosyalarınız şimdi senkronize ediliyor.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon at any time to see the status and change the settings.</source>
+        <translation>Durumu görmek ve ayarları değiştirmek için istediğiniz zaman tepsi simgesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. Tessaly will merge its files with those on the hub.</source>
+        <translation>Klasör boş değil. Tessaly, klasördeki dosyaları hub’dakilerle birleştirecek.</translation>
+    </message>
+    <message>
+        <source>Tessaly is already running.</source>
+        <translation>Tessaly zaten çalışıyor.</translation>
+    </message>
+    <message>
+        <source>Tessaly is set up. Open your folder to start working.</source>
+        <translation>Tessaly ayarlandı. Çalışmaya başlamak için klasörünüzü açın.</translation>
+    </message>
+    <message>
+        <source>You only have read access to this folder. Tessaly will not upload your changes.</source>
+        <translation>Bu klasör için yalnızca okuma izniniz var. Tessaly, değişikliklerinizi karşıya yüklemeyecek.</translation>
+    </message>
+    <message>
+        <source>Open Tessaly</source>
+        <translation>Tessaly’yi aç</translation>
+    </message>
+    <message>
+        <source>Version %1 is available. Click here to update.</source>
+        <translation>%1 sürümü kullanıma hazır. Güncellemek için buraya tıklayın.</translation>
+    </message>
+    <message>
+        <source>To use selective sync, please ask your administrator to update Tessaly Server on the hub.</source>
+        <translation>Seçmeli senkronizasyonu kullanmak için yöneticinizden hub’daki Tessaly Server uygulamasını güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Tarih ve saat</translation>
+    </message>
+    <message>
+        <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
+        <translation>Bu diskte yeterli yer yok. Tessaly için en az %1 MB gerekiyor.</translation>
+    </message>
+    <message>
+        <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
+        <translation>Tessaly artık hub ile eşleştirildi ve dosyalarınızı senkronize tutacak.</translation>
+    </message>
+    <message>
+        <source>Tessaly can be linked to the same hub only once with the same account.</source>
+        <translation>Tessaly, aynı hesapla aynı hub ile yalnızca bir kez eşleştirilebilir.</translation>
+    </message>
+    <message>
+        <source>Set up Tessaly to sync the files on this computer.</source>
+        <translation>Bu bilgisayardaki dosyaları senkronize etmek için Tessaly uygulamasını ayarlayın.</translation>
+    </message>
+    <message>
+        <source>New to Tessaly? Read the &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
+        <translation>Tessaly’yi yeni mi kullanmaya başladınız? Önce &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;hızlı başlangıç kılavuzunu&lt;/a&gt; okuyun.</translation>
+    </message>
+    <message>
+        <source>Can comment</source>
+        <translation>Yorum yapabilir</translation>
+    </message>
+    <message>
+        <source>Hub users with the link can view</source>
+        <translation>Bağlantıya sahip hub kullanıcıları görüntüleyebilir</translation>
+    </message>
+    <message>
+        <source>Hub users with the link can edit</source>
+        <translation>Bağlantıya sahip hub kullanıcıları düzenleyebilir</translation>
+    </message>
+    <message>
+        <source>Only people who have been invited can open the link</source>
+        <translation>Bağlantıyı yalnızca davet edilen kişiler açabilir</translation>
+    </message>
+    <message>
+        <source>Anyone with the link can comment</source>
+        <translation>Bağlantıya sahip herkes yorum yapabilir</translation>
+    </message>
+    <message>
+        <source>Anyone with the link can view</source>
+        <translation>Bağlantıya sahip herkes görüntüleyebilir</translation>
+    </message>
+    <message>
+        <source>Hub users with the link can comment</source>
+        <translation>Bağlantıya sahip hub kullanıcıları yorum yapabilir</translation>
+    </message>
+    <message>
+        <source>Anyone with the link can edit</source>
+        <translation>Bağlantıya sahip herkes düzenleyebilir</translation>
+    </message>
+    <message>
+        <source>Can view</source>
+        <translation>Görüntüleyebilir</translation>
+    </message>
+    <message>
+        <source>Can manage</source>
+        <translation>Yönetebilir</translation>
+    </message>
+    <message>
+        <source>Can edit</source>
+        <translation>Düzenleyebilir</translation>
+    </message>
+    <message>
+        <source>The web portal cannot be opened. Please check your connection to the hub.</source>
+        <translation>Web portalı açılamıyor. Hub bağlantınızı kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Invite people</source>
+        <translation>Kişileri davet et</translation>
+    </message>
+    <message>
+        <source>No access</source>
+        <translation>Erişim yok</translation>
+    </message>
+    <message>
+        <source>There are no shared folders.</source>
+        <translation>Paylaşılan klasör yok.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>İndir</translation>
+    </message>
+    <message>
+        <source>Public sharing is disabled on the hub.</source>
+        <translation>Herkese açık paylaşım hub’da devre dışı.</translation>
+    </message>
+    <message>
+        <source>Sharing is disabled. Please contact your administrator.</source>
+        <translation>Paylaşım devre dışı. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Geri yükle</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the Grida spreadsheet &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” Grida e-tablosu için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>People who have the link will no longer be able to open the file.</source>
+        <translation>Bağlantıya sahip kişiler artık dosyayı açamayacak.</translation>
+    </message>
+    <message>
+        <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
+        <translation>%1, “%2” Grida e-tablosunu sizinle paylaştı.</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Veri yok</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Paylaş</translation>
+    </message>
+    <message>
+        <source>The file or folder does not exist.</source>
+        <translation>Dosya veya klasör mevcut değil.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to perform this action.</source>
+        <translation>Bu eylemi gerçekleştirme izniniz yok.</translation>
+    </message>
+    <message>
+        <source>Weekends</source>
+        <translation>Hafta sonları</translation>
+    </message>
+    <message>
+        <source>Hub users</source>
+        <translation>Hub kullanıcıları</translation>
+    </message>
+    <message>
+        <source>My Quay</source>
+        <translation>My Quay</translation>
+    </message>
+    <message>
+        <source>Invited people only</source>
+        <translation>Yalnızca davet edilen kişiler</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Görünüm</translation>
+    </message>
+    <message>
+        <source>Anyone with the link</source>
+        <translation>Bağlantıya sahip herkes</translation>
+    </message>
+    <message>
+        <source>Set an expiration date</source>
+        <translation>Geçerlilik bitiş tarihi belirle</translation>
+    </message>
+    <message>
+        <source>Users and groups</source>
+        <translation>Kullanıcılar ve gruplar</translation>
+    </message>
+    <message>
+        <source>Kelvane Quay</source>
+        <translation>Kelvane Quay</translation>
+    </message>
+    <message>
+        <source>Show the synced folders in the sidebar of the file manager</source>
+        <translation>Senkronize edilen klasörleri dosya yöneticisinin kenar çubuğunda göster</translation>
+    </message>
+    <message>
+        <source>Work in the synced folder as in any other folder. Your changes are transferred to the hub at once.</source>
+        <translation>Senkronize edilen klasörde, başka herhangi bir klasörde olduğu gibi çalışın. Değişiklikleriniz hemen hub’a aktarılır.</translation>
+    </message>
+    <message>
+        <source>Your computer</source>
+        <translation>Bilgisayarınız</translation>
+    </message>
+    <message>
+        <source>All your files, everywhere</source>
+        <translation>Tüm dosyalarınız, her yerde</translation>
+    </message>
+    <message>
+        <source>Save space with on-demand sync</source>
+        <translation>İsteğe bağlı senkronizasyonla yer kazanın</translation>
+    </message>
+    <message>
+        <source>All files show up on your computer, but they only take up space once you open them.</source>
+        <translation>Tüm dosyalar bilgisayarınızda görünür ancak yalnızca açtığınızda yer kaplar.</translation>
+    </message>
+    <message>
+        <source>Online only</source>
+        <translation>Yalnızca çevrimiçi</translation>
+    </message>
+    <message>
+        <source>Available on this computer</source>
+        <translation>Bu bilgisayarda kullanılabilir</translation>
+    </message>
+    <message>
+        <source>mentioned you in</source>
+        <translation>sizden şurada bahsetti:</translation>
+    </message>
+    <message>
+        <source>requested access to</source>
+        <translation>şuna erişim istedi:</translation>
+    </message>
+    <message>
+        <source>%1 shared the file &quot;%2&quot; with you.</source>
+        <translation>%1, “%2” dosyasını sizinle paylaştı.</translation>
+    </message>
+    <message>
+        <source>shared with you</source>
+        <translation>sizinle şunu paylaştı:</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>Paylaşılanlar</translation>
+    </message>
+    <message>
+        <source>Access request</source>
+        <translation>Erişim isteği</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Yorumlar</translation>
+    </message>
+    <message>
+        <source>Shared with me</source>
+        <translation>Benimle paylaşılanlar</translation>
+    </message>
+    <message>
+        <source>Mentions</source>
+        <translation>Bahsetmeler</translation>
+    </message>
+    <message>
+        <source>Upload only</source>
+        <translation>Yalnızca karşıya yükle</translation>
+    </message>
+    <message>
+        <source>Keep files on the hub when they are deleted from this computer</source>
+        <translation>Bu bilgisayardan silinen dosyaları hub’da tut</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Daha sonra</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been downloaded.</source>
+        <translation>“%1” indirildi.</translation>
+    </message>
+    <message>
+        <source>Your files are up to date on all your devices.</source>
+        <translation>Dosyalarınız tüm cihazlarınızda güncel.</translation>
+    </message>
+    <message>
+        <source>Your files are also available in the &lt;a href=&quot;%1&quot;&gt;web portal&lt;/a&gt;.</source>
+        <translation>Dosyalarınıza &lt;a href=&quot;%1&quot;&gt;web portalından&lt;/a&gt; da erişebilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Congratulations!</source>
+        <translation>Tebrikler!</translation>
+    </message>
+    <message>
+        <source>You are ready to work with Tessaly.</source>
+        <translation>Tessaly ile çalışmaya hazırsınız.</translation>
+    </message>
+    <message>
+        <source>Enable later</source>
+        <translation>Daha sonra etkinleştir</translation>
+    </message>
+    <message>
+        <source>Enable now</source>
+        <translation>Şimdi etkinleştir</translation>
+    </message>
+    <message>
+        <source>Files shared with you</source>
+        <translation>Sizinle paylaşılan dosyalar</translation>
+    </message>
+    <message>
+        <source>Create a sync task</source>
+        <translation>Senkronizasyon görevi oluştur</translation>
+    </message>
+    <message>
+        <source>My files and team folders</source>
+        <translation>Dosyalarım ve ekip klasörleri</translation>
+    </message>
+    <message>
+        <source>Files shared with me</source>
+        <translation>Benimle paylaşılan dosyalar</translation>
+    </message>
+    <message>
+        <source>This is not the hub that Tessaly was linked to. Please link this computer again.</source>
+        <translation>Bu hub, Tessaly ile eşleştirilmiş olan hub değil. Bu bilgisayarı yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>The hub and Tessaly cannot communicate. Please update both to the latest version.</source>
+        <translation>Hub ile Tessaly iletişim kuramıyor. İkisini de en son sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Never miss a change</source>
+        <translation>Hiçbir değişikliği kaçırmayın</translation>
+    </message>
+    <message>
+        <source>The disk is full. Free up some space on this computer so that Tessaly can continue.</source>
+        <translation>Disk dolu. Tessaly uygulamasının devam edebilmesi için bu bilgisayarda biraz yer açın.</translation>
+    </message>
+    <message>
+        <source>Team folder</source>
+        <translation>Ekip klasörü</translation>
+    </message>
+    <message>
+        <source>Only download changes from Tessaly Server</source>
+        <translation>Yalnızca Tessaly Server üzerindeki değişiklikleri indir</translation>
+    </message>
+    <message>
+        <source>Tessaly could not be updated. Please try again later.</source>
+        <translation>Tessaly güncellenemedi. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The tray icon shows what is being synced and tells you when others share files with you or comment on them.</source>
+        <translation>Tepsi simgesi nelerin senkronize edildiğini gösterir; başkaları sizinle dosya paylaştığında veya dosyalara yorum yaptığında size haber verir.</translation>
+    </message>
+    <message>
+        <source>Share in seconds</source>
+        <translation>Saniyeler içinde paylaşın</translation>
+    </message>
+    <message>
+        <source>Right-click a file or folder, create a link, and decide who may open it and for how long.</source>
+        <translation>Bir dosyaya veya klasöre sağ tıklayın, bağlantı oluşturun ve kimin ne kadar süreyle açabileceğine karar verin.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the Pictra presentation &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” Pictra sunusu için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>%1 shared the folder &quot;%2&quot; with you.</source>
+        <translation>%1, “%2” klasörünü sizinle paylaştı.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the folder &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” klasörü için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the file &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” dosyası için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>%1 (%2) requests %3 access to the Folia document &quot;%4&quot;.</source>
+        <translation>%1 (%2), “%4” Folia belgesi için erişim istiyor (izin: %3).</translation>
+    </message>
+    <message>
+        <source>%1 shared the Folia document &quot;%2&quot; with you.</source>
+        <translation>%1, “%2” Folia belgesini sizinle paylaştı.</translation>
+    </message>
+    <message>
+        <source>%1 shared the Pictra presentation &quot;%2&quot; with you.</source>
+        <translation>%1, “%2” Pictra sunusunu sizinle paylaştı.</translation>
+    </message>
+    <message>
+        <source>Privacy settings</source>
+        <translation>Gizlilik ayarları</translation>
+    </message>
+    <message>
+        <source>Protect with a password</source>
+        <translation>Parolayla koru</translation>
+    </message>
+    <message>
+        <source>Weekdays</source>
+        <translation>Hafta içi</translation>
+    </message>
+    <message>
+        <source>A folder named &quot;%1&quot; will be created for the files that others share with you.</source>
+        <translation>Başkalarının sizinle paylaştığı dosyalar için “%1” adlı bir klasör oluşturulacak.</translation>
+    </message>
+    <message>
+        <source>Always keep on this computer</source>
+        <translation>Her zaman bu bilgisayarda tut</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>Herhangi biri</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>İlerleme</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Bağlanılıyor...</translation>
+    </message>
+    <message>
+        <source>Sync task</source>
+        <translation>Senkronizasyon görevi</translation>
+    </message>
+    <message>
+        <source>Files are backed up as soon as they change.</source>
+        <translation>Dosyalar değişir değişmez yedeklenir.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Files are backed up at the times that you set.</source>
+        <translation>Dosyalar belirlediğiniz zamanlarda yedeklenir.</translation>
+    </message>
+    <message>
+        <source>The backup is complete. The computer will shut down in %1 seconds.</source>
+        <translation>Yedekleme tamamlandı. Bilgisayar %1 saniye içinde kapanacak.</translation>
+    </message>
+    <message>
+        <source>Backup task</source>
+        <translation>Yedekleme görevi</translation>
+    </message>
+    <message>
+        <source>Run on the following days</source>
+        <translation>Aşağıdaki günlerde çalıştır</translation>
+    </message>
+    <message>
+        <source>Connect to the hub</source>
+        <translation>Hub’a bağlan</translation>
+    </message>
+    <message>
+        <source>Protect the files on this computer by backing them up to the hub.</source>
+        <translation>Bu bilgisayardaki dosyaları hub’a yedekleyerek koruyun.</translation>
+    </message>
+    <message>
+        <source>Manual: the backup runs only when you start it.</source>
+        <translation>Elle: yedekleme yalnızca siz başlattığınızda çalışır.</translation>
+    </message>
+    <message>
+        <source>Start time</source>
+        <translation>Başlangıç saati</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Sıklık</translation>
+    </message>
+    <message>
+        <source>Last end time</source>
+        <translation>Son bitiş saati</translation>
+    </message>
+    <message>
+        <source>Last run time</source>
+        <translation>Son çalışma saati</translation>
+    </message>
+    <message>
+        <source>Commenter</source>
+        <translation>Yorum yapan</translation>
+    </message>
+    <message>
+        <source>Change who can open this link</source>
+        <translation>Bu bağlantıyı kimlerin açabileceğini değiştir</translation>
+    </message>
+    <message>
+        <source>Last upload: %1</source>
+        <translation>Son karşıya yükleme: %1</translation>
+    </message>
+    <message>
+        <source>Task settings</source>
+        <translation>Görev ayarları</translation>
+    </message>
+    <message>
+        <source>Continuous: files are backed up whenever they change.</source>
+        <translation>Sürekli: dosyalar her değiştiğinde yedeklenir.</translation>
+    </message>
+    <message>
+        <source>Open in file manager</source>
+        <translation>Dosya yöneticisinde aç</translation>
+    </message>
+    <message>
+        <source>The time is on the following day.</source>
+        <translation>Saat, ertesi güne denk geliyor.</translation>
+    </message>
+    <message>
+        <source>The sharing information could not be retrieved.</source>
+        <translation>Paylaşım bilgileri alınamadı.</translation>
+    </message>
+    <message>
+        <source>Backup destination</source>
+        <translation>Yedekleme hedefi</translation>
+    </message>
+    <message>
+        <source>Files are backed up when you click Back up now.</source>
+        <translation>Dosyalar, Şimdi yedekle düğmesine tıkladığınızda yedeklenir.</translation>
+    </message>
+    <message>
+        <source>Allow downloads</source>
+        <translation>İndirmelere izin ver</translation>
+    </message>
+    <message>
+        <source>Scheduled: the backup runs at the times that you set.</source>
+        <translation>Zamanlanmış: yedekleme belirlediğiniz zamanlarda çalışır.</translation>
+    </message>
+    <message>
+        <source>Backup schedule</source>
+        <translation>Yedekleme zamanlaması</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>Yöneten</translation>
+    </message>
+    <message>
+        <source>Previewer</source>
+        <translation>Önizleyen</translation>
+    </message>
+    <message>
+        <source>Create a backup task</source>
+        <translation>Yedekleme görevi oluştur</translation>
+    </message>
+    <message>
+        <source>Files whose names or extensions are listed here will be skipped.</source>
+        <translation>Adı veya uzantısı burada listelenen dosyalar atlanacak.</translation>
+    </message>
+    <message>
+        <source>Sync temporary files</source>
+        <translation>Geçici dosyaları senkronize et</translation>
+    </message>
+    <message>
+        <source>Copy files from this computer to the hub, at once or on a schedule.</source>
+        <translation>Bu bilgisayardaki dosyaları hemen veya bir zamanlamaya göre hub’a kopyalayın.</translation>
+    </message>
+    <message>
+        <source>Choose when the files are backed up.</source>
+        <translation>Dosyaların ne zaman yedekleneceğini seçin.</translation>
+    </message>
+    <message>
+        <source>Please select at least one folder to back up.</source>
+        <translation>Yedeklenecek en az bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
+        <translation>%1 dosya (%2) yedeklendi; hedef: “%3”, tarih: %4</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>Start backing up</source>
+        <translation>Yedeklemeyi başlat</translation>
+    </message>
+    <message>
+        <source>Files and folders that match these rules will not be backed up.</source>
+        <translation>Bu kurallara uyan dosya ve klasörler yedeklenmeyecek.</translation>
+    </message>
+    <message>
+        <source>No folder selected</source>
+        <translation>Klasör seçilmedi</translation>
+    </message>
+    <message>
+        <source>Free up space</source>
+        <translation>Yer aç</translation>
+    </message>
+    <message>
+        <source>Stop keeping on this computer</source>
+        <translation>Bu bilgisayarda tutmayı bırak</translation>
+    </message>
+    <message>
+        <source>Selected days</source>
+        <translation>Seçili günler</translation>
+    </message>
+    <message>
+        <source>When the backup is done</source>
+        <translation>Yedekleme bittiğinde</translation>
+    </message>
+    <message>
+        <source>Select a folder on &quot;%1&quot;.</source>
+        <translation>“%1” üzerinde bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Select a folder on the hub.</source>
+        <translation>Hub’da bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Her</translation>
+    </message>
+    <message>
+        <source>Skip files and folders whose names start with a period</source>
+        <translation>Adı noktayla başlayan dosya ve klasörleri atla</translation>
+    </message>
+    <message>
+        <source>Start syncing</source>
+        <translation>Senkronizasyonu başlat</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the SSL certificate of the hub could not be verified.</source>
+        <translation>Hub’ın SSL sertifikası doğrulanamadığı için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>The task could not be registered on the hub. Please try again.</source>
+        <translation>Görev hub’a kaydedilemedi. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the hub at this address has changed.</source>
+        <translation>Bu adresteki hub değiştiği için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the hub and the client cannot communicate. Please update both.</source>
+        <translation>Hub ile istemci iletişim kuramadığı için yedekleme durdu. İkisini de güncelleyin.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because this version of Tessaly is too old for the hub.</source>
+        <translation>Bu Tessaly sürümü hub için çok eski olduğundan yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>Please update Tessaly to version %1 or later.</source>
+        <translation>Tessaly’yi %1 veya daha yeni bir sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Please check your username and password, then sign in again.</source>
+        <translation>Kullanıcı adınızı ve parolanızı kontrol edip yeniden oturum açın.</translation>
+    </message>
+    <message>
+        <source>Please check that the hub is turned on and that this computer is connected to the network.</source>
+        <translation>Hub’ın açık olduğunu ve bu bilgisayarın ağa bağlı olduğunu kontrol edin.</translation>
+    </message>
+    <message>
+        <source>The hub has blocked the IP address of this computer. Please contact your administrator.</source>
+        <translation>Hub bu bilgisayarın IP adresini engelledi. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub is not valid. Please contact your administrator.</source>
+        <translation>Hub’ın SSL sertifikası geçerli değil. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Please ask your administrator to update Tessaly Server on the hub.</source>
+        <translation>Yöneticinizden hub’daki Tessaly Server uygulamasını güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>Not backed up yet</source>
+        <translation>Henüz yedeklenmedi</translation>
+    </message>
+    <message>
+        <source>Keep a folder on this computer and a folder on the hub identical.</source>
+        <translation>Bu bilgisayardaki bir klasörle hub’daki bir klasörün içeriğini hep aynı tutun.</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;https://help.kelvane.example/client&quot;&gt;Learn more&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;https://help.kelvane.example/client&quot;&gt;Daha fazla bilgi&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Choose the days and times at which the backup runs.</source>
+        <translation>Yedeklemenin çalışacağı günleri ve saatleri seçin.</translation>
+    </message>
+    <message>
+        <source>Run missed backups as soon as possible</source>
+        <translation>Kaçırılan yedeklemeleri olabildiğince çabuk çalıştır</translation>
+    </message>
+    <message>
+        <source>Choose a folder on each side.</source>
+        <translation>Her iki tarafta birer klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Enter the address of the hub and your account.</source>
+        <translation>Hub’ın adresini ve hesap bilgilerinizi girin.</translation>
+    </message>
+    <message>
+        <source>Please check the settings of the new task.</source>
+        <translation>Yeni görevin ayarlarını kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Yol</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because signing in to the hub failed.</source>
+        <translation>Hub’da oturum açılamadığı için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
+        <translation>Hub’daki paketin sürümü desteklenmiyor. Yöneticinizden güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
+        <translation>Hub bu bilgisayarın IP adresini engellediği için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the package on the hub is too old for this client.</source>
+        <translation>Hub’daki paket bu istemci için çok eski olduğundan yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>Some of the selected folders no longer exist. Clear them to continue.</source>
+        <translation>Seçili klasörlerden bazıları artık yok. Devam etmek için bunların seçimini kaldırın.</translation>
+    </message>
+    <message>
+        <source>Sync direction mismatch</source>
+        <translation>Senkronizasyon yönü uyuşmazlığı</translation>
+    </message>
+    <message>
+        <source>Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
+        <translation>Kelvane Quay Client artık yüklenebilir. Başlamak için Yükle, ayarlarınızı kontrol etmek için Geri düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Choose a type of task</source>
+        <translation>Görev türü seçin</translation>
+    </message>
+    <message>
+        <source>Work with the same files on all your computers.</source>
+        <translation>Tüm bilgisayarlarınızda aynı dosyalarla çalışın.</translation>
+    </message>
+    <message>
+        <source>Keep a safe copy of your files on the hub.</source>
+        <translation>Dosyalarınızın güvenli bir kopyasını hub’da saklayın.</translation>
+    </message>
+    <message>
+        <source>Sign in to the hub that will store your backups.</source>
+        <translation>Yedeklerinizi saklayacak hub’da oturum açın.</translation>
+    </message>
+    <message>
+        <source>Set up your sync folders</source>
+        <translation>Senkronize klasörlerinizi ayarlayın</translation>
+    </message>
+    <message>
+        <source>Please free up some space on the disk of this computer.</source>
+        <translation>Bu bilgisayarın diskinde biraz yer açın.</translation>
+    </message>
+    <message>
+        <source>Choose the folder on the hub that you want to sync.</source>
+        <translation>Hub’da senkronize etmek istediğiniz klasörü seçin.</translation>
+    </message>
+    <message>
+        <source>Files are downloaded only when you open them, which saves space on this computer.</source>
+        <translation>Dosyalar yalnızca açtığınızda indirilir, böylece bu bilgisayarda yer kazanırsınız.</translation>
+    </message>
+    <message>
+        <source>On-demand sync is not available for the selected folder or the operating system of this computer.</source>
+        <translation>İsteğe bağlı senkronizasyon, seçili klasörde veya bu bilgisayarın işletim sisteminde kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>Shared folder not mounted</source>
+        <translation>Paylaşılan klasör bağlı değil</translation>
+    </message>
+    <message>
+        <source>Only upload changes to %1</source>
+        <translation>Yalnızca yerel değişiklikleri %1 üzerine yükle</translation>
+    </message>
+    <message>
+        <source>Sync the files that others share with me</source>
+        <translation>Başkalarının benimle paylaştığı dosyaları senkronize et</translation>
+    </message>
+    <message>
+        <source>Back up temporary files</source>
+        <translation>Geçici dosyaları yedekle</translation>
+    </message>
+    <message>
+        <source>Files that others share with you will appear in a folder of their own on this computer.</source>
+        <translation>Başkalarının sizinle paylaştığı dosyalar bu bilgisayarda ayrı bir klasörde görünecek.</translation>
+    </message>
+    <message>
+        <source>Web portal</source>
+        <translation>Web portalı</translation>
+    </message>
+    <message>
+        <source>Storage quota used up</source>
+        <translation>Depolama kotası doldu</translation>
+    </message>
+    <message>
+        <source>Home folder disabled</source>
+        <translation>Ana klasör devre dışı</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Pzt</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Per</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Cmt</translation>
+    </message>
+    <message>
+        <source>Local folder not found</source>
+        <translation>Yerel klasör bulunamadı</translation>
+    </message>
+    <message>
+        <source>The task could not be started. Please restart the application.</source>
+        <translation>Görev başlatılamadı. Uygulamayı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>The shared folder of this task is not mounted on the hub. Please contact your administrator.</source>
+        <translation>Bu görevin paylaşılan klasörü hub’da bağlı değil. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>You no longer have permission to access the shared folder of this task.</source>
+        <translation>Bu görevin paylaşılan klasörüne artık erişim izniniz yok.</translation>
+    </message>
+    <message>
+        <source>Drive not connected</source>
+        <translation>Sürücü takılı değil</translation>
+    </message>
+    <message>
+        <source>Almost done! Your files will soon be available in %1.</source>
+        <translation>Neredeyse bitti! Dosyalarınız yakında %1 üzerinde kullanılabilecek.</translation>
+    </message>
+    <message>
+        <source>Enter 0 to set no limit.</source>
+        <translation>Sınır koymamak için 0 girin.</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Cum</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>Rol</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Paz</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Sal</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Çar</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Cuma</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Pazartesi</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Cumartesi</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Pazar</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Perşembe</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Salı</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Çarşamba</translation>
+    </message>
+    <message>
+        <source>I do not accept the license agreement</source>
+        <translation>Lisans sözleşmesini kabul etmiyorum</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Disk dolu</translation>
+    </message>
+    <message>
+        <source>Initialization failed</source>
+        <translation>Başlatma başarısız oldu</translation>
+    </message>
+    <message>
+        <source>The local folder may have been moved, renamed, or deleted.</source>
+        <translation>Yerel klasör taşınmış, adı değiştirilmiş veya silinmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>Shared folder quota used up</source>
+        <translation>Paylaşılan klasör kotası doldu</translation>
+    </message>
+    <message>
+        <source>The quota of the shared folder is used up. Please contact your administrator.</source>
+        <translation>Paylaşılan klasörün kotası doldu. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Remote folder not found</source>
+        <translation>Uzak klasör bulunamadı</translation>
+    </message>
+    <message>
+        <source>The remote folder may have been moved, renamed, or deleted.</source>
+        <translation>Uzak klasör taşınmış, adı değiştirilmiş veya silinmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>Link permission</source>
+        <translation>Bağlantı izni</translation>
+    </message>
+    <message>
+        <source>Next backup: %1</source>
+        <translation>Sonraki yedekleme: %1</translation>
+    </message>
+    <message>
+        <source>Backup plan</source>
+        <translation>Yedekleme planı</translation>
+    </message>
+    <message>
+        <source>Sharing link</source>
+        <translation>Paylaşım bağlantısı</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Bağlantıyı paylaş</translation>
+    </message>
+    <message>
+        <source>Backup tasks require %1 %2 or later on the hub. The installed version is %3.</source>
+        <translation>Yedekleme görevleri için hub’da %1 %2 veya daha yeni bir sürüm gerekir. Yüklü sürüm: %3.</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to this hub with the same account.</source>
+        <translation>Bu bilgisayar aynı hesapla bu hub ile zaten eşleştirilmiş.</translation>
+    </message>
+    <message>
+        <source>Loading the shared folders...</source>
+        <translation>Paylaşılan klasörler yükleniyor...</translation>
+    </message>
+    <message>
+        <source>Changes on network drives cannot be detected at once. They will be synced with a delay.</source>
+        <translation>Ağ sürücülerindeki değişiklikler hemen algılanamaz. Bunlar gecikmeli olarak senkronize edilecek.</translation>
+    </message>
+    <message>
+        <source>Welcome to Tessaly!</source>
+        <translation>Tessaly’ye hoş geldiniz!</translation>
+    </message>
+    <message>
+        <source>Click the Tessaly icon in the system tray to change the settings.</source>
+        <translation>Ayarları değiştirmek için sistem tepsisindeki Tessaly simgesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Click the icon of %1 in the system tray to change the settings.</source>
+        <translation>Ayarları değiştirmek için sistem tepsisindeki %1 simgesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Synchronization has stopped because a volume of the hub is full.</source>
+        <translation>Hub’ın bir birimi dolu olduğu için senkronizasyon durdu.</translation>
+    </message>
+    <message>
+        <source>The package on the hub is too old for the client.</source>
+        <translation>Hub’daki paket istemci için çok eski.</translation>
+    </message>
+    <message>
+        <source>Linking to the hub...</source>
+        <translation>Hub ile eşleştiriliyor...</translation>
+    </message>
+    <message>
+        <source>All files are up to date.</source>
+        <translation>Tüm dosyalar güncel.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Önizleme</translation>
+    </message>
+    <message>
+        <source>Up to date</source>
+        <translation>Güncel</translation>
+    </message>
+    <message>
+        <source>Folder link</source>
+        <translation>Klasör bağlantısı</translation>
+    </message>
+    <message>
+        <source>Expiration date</source>
+        <translation>Geçerlilik bitiş tarihi</translation>
+    </message>
+    <message>
+        <source>You are ready to work with %1.</source>
+        <translation>%1 ile çalışmaya hazırsınız.</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Şimdi</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>Karşıya yükle</translation>
+    </message>
+    <message>
+        <source>Kelvane Quay Server</source>
+        <translation>Kelvane Quay Server</translation>
+    </message>
+    <message>
+        <source>Please update %1 to version %2 or later.</source>
+        <translation>%1 uygulamasını %2 veya daha yeni bir sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Choose the files that the new task keeps in sync.</source>
+        <translation>Yeni görevin senkronize tutacağı dosyaları seçin.</translation>
+    </message>
+    <message>
+        <source>Open the web portal of %1</source>
+        <translation>%1 web portalını aç</translation>
+    </message>
+    <message>
+        <source>Kelvane Quay Client</source>
+        <translation>Kelvane Quay Client</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because this version of %1 is too old for the hub.</source>
+        <translation>Bu %1 sürümü hub için çok eski olduğundan yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>Please ask your administrator to update %1 on the hub.</source>
+        <translation>Yöneticinizden hub’daki %1 uygulamasını güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>A folder named &quot;%1&quot; will be created at this location.</source>
+        <translation>Bu konumda “%1” adlı bir klasör oluşturulacak.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; could not be created on this computer.</source>
+        <translation>“%1” klasörü bu bilgisayarda oluşturulamadı.</translation>
+    </message>
+    <message>
+        <source>See all your files without filling up the disk. Each file is downloaded when you open it.</source>
+        <translation>Diski doldurmadan tüm dosyalarınızı görün. Her dosya, açtığınızda indirilir.</translation>
+    </message>
+    <message>
+        <source>Open the Kelvane Quay web portal</source>
+        <translation>Kelvane Quay web portalını aç</translation>
+    </message>
+    <message>
+        <source>A newer version of Tessaly is already installed. Please remove it before you install Kelvane Quay Client.</source>
+        <translation>Tessaly’nin daha yeni bir sürümü zaten yüklü. Kelvane Quay Client uygulamasını yüklemeden önce onu kaldırın.</translation>
+    </message>
+    <message>
+        <source>Tutorial page 1: welcome to %1</source>
+        <translation>Öğretici sayfa 1: %1 uygulamasına hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Task type</source>
+        <translation>Görev türü</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>The sync and backup features of Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
+        <translation>Kelvane Quay Client uygulamasının senkronizasyon ve yedekleme özellikleri artık yüklenebilir. Başlamak için Yükle, ayarlarınızı kontrol etmek için Geri düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Enable on-demand sync</source>
+        <translation>İsteğe bağlı senkronizasyonu etkinleştir</translation>
+    </message>
+    <message>
+        <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
+        <translation>“%1” isteğe bağlı senkronizasyon klasörü eksik. Görevi yeniden ayarlayın.</translation>
+    </message>
+    <message>
+        <source>On-demand sync</source>
+        <translation>İsteğe bağlı senkronizasyon</translation>
+    </message>
+    <message>
+        <source>Try on-demand sync</source>
+        <translation>İsteğe bağlı senkronizasyonu deneyin</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Yorum yap</translation>
+    </message>
+    <message>
+        <source>The volume of the hub is full. Please contact your administrator.</source>
+        <translation>Hub’ın birimi dolu. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Please enter a valid date.</source>
+        <translation>Geçerli bir tarih girin.</translation>
+    </message>
+    <message>
+        <source>The end time must be later than the start time.</source>
+        <translation>Bitiş saati, başlangıç saatinden sonra olmalıdır.</translation>
+    </message>
+    <message>
+        <source>Enter a file name or extension, such as &quot;*.tmp&quot;</source>
+        <translation>“*.tmp” gibi bir dosya adı veya uzantısı girin</translation>
+    </message>
+    <message>
+        <source>Roles and permissions</source>
+        <translation>Roller ve izinler</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Düzenle</translation>
+    </message>
+    <message>
+        <source>Space freed up</source>
+        <translation>Yer açıldı</translation>
+    </message>
+    <message>
+        <source>Made available on this computer</source>
+        <translation>Bu bilgisayarda kullanılabilir hale getirildi</translation>
+    </message>
+    <message>
+        <source>On-demand sync requires a folder on an NTFS drive that is not a network or removable drive.</source>
+        <translation>İsteğe bağlı senkronizasyon için, ağ sürücüsü veya çıkarılabilir sürücü olmayan bir NTFS sürücüsündeki klasör gerekir.</translation>
+    </message>
+    <message>
+        <source>Keep files online until you need them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;How on-demand sync works&lt;/a&gt;</source>
+        <translation>Gereksinim duyana kadar dosyaları çevrimiçi tutun. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;İsteğe bağlı senkronizasyon nasıl çalışır&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
+        <translation>Bu diskte yeterli yer yok. %1 için en az %2 MB gerekiyor.</translation>
+    </message>
+    <message>
+        <source>Sync your home folder and the team folders that you have access to.</source>
+        <translation>Ana klasörünüzü ve erişiminiz olan ekip klasörlerini senkronize edin.</translation>
+    </message>
+    <message>
+        <source>If you turn this off, the folder with the files that others share with you will be removed from this computer. Do you want to continue?</source>
+        <translation>Bunu kapatırsanız başkalarının sizinle paylaştığı dosyaların bulunduğu klasör bu bilgisayardan kaldırılacak. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Sync the files that others share with you, so that you can open them like your own.</source>
+        <translation>Başkalarının sizinle paylaştığı dosyaları senkronize edin; onları kendi dosyalarınız gibi açabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Enable on-demand sync for this task</source>
+        <translation>Bu görev için isteğe bağlı senkronizasyonu etkinleştir</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
+        <translation>Hesabınızın hub’daki paketi kullanma izni olmadığı için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>Sync the files and folders that other users share with you.</source>
+        <translation>Diğer kullanıcıların sizinle paylaştığı dosya ve klasörleri senkronize edin.</translation>
+    </message>
+    <message>
+        <source>Your disk is filling up. Enable on-demand sync to free up space.</source>
+        <translation>Diskiniz doluyor. Yer açmak için isteğe bağlı senkronizasyonu etkinleştirin.</translation>
+    </message>
+    <message>
+        <source>Everything that others share with you, in one folder</source>
+        <translation>Başkalarının sizinle paylaştığı her şey tek klasörde</translation>
+    </message>
+    <message>
+        <source>Please ask your administrator to give you permission to use the package.</source>
+        <translation>Yöneticinizden paketi kullanmanız için size izin vermesini isteyin.</translation>
+    </message>
+    <message>
+        <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
+        <translation>Bu istemci için hub’da %1 %2 veya daha yeni bir sürüm gerekir. Yöneticinizden güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to use the package on the hub. Please contact your administrator.</source>
+        <translation>Hub’daki paketi kullanma izniniz yok. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>The destination is already used by another backup task. Please choose another folder.</source>
+        <translation>Hedef, başka bir yedekleme görevinde zaten kullanılıyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
+        <translation>%1, hub’daki paketle iletişim kuramıyor. İkisini de en son sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Only you can open the link</source>
+        <translation>Bağlantıyı yalnızca siz açabilirsiniz</translation>
+    </message>
+    <message>
+        <source>Continue anyway</source>
+        <translation>Yine de devam et</translation>
+    </message>
+    <message>
+        <source>Tessaly keeps your files identical on all your computers and protects them on the hub.</source>
+        <translation>Tessaly, dosyalarınızı tüm bilgisayarlarınızda hep aynı tutar ve hub’da korur.</translation>
+    </message>
+    <message>
+        <source>Share a file with a link. You decide who can view or edit it.</source>
+        <translation>Bir dosyayı bağlantıyla paylaşın. Kimin görüntüleyip kimin düzenleyebileceğine siz karar verin.</translation>
+    </message>
+    <message>
+        <source>Start the tour</source>
+        <translation>Tura başla</translation>
+    </message>
+    <message>
+        <source>New to %1? Read the &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
+        <translation>%1 uygulamasını yeni mi kullanmaya başladınız? Önce &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;hızlı başlangıç kılavuzunu&lt;/a&gt; okuyun.</translation>
+    </message>
+    <message>
+        <source>Please enter your username.</source>
+        <translation>Kullanıcı adınızı girin.</translation>
+    </message>
+    <message>
+        <source>All files of this task will be downloaded to this computer. Do you want to continue?</source>
+        <translation>Bu görevin tüm dosyaları bu bilgisayara indirilecek. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Welcome to Tessaly</source>
+        <translation>Tessaly’ye hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Share with others</source>
+        <translation>Başkalarıyla paylaşın</translation>
+    </message>
+    <message>
+        <source>Open the history to find out who changed a file and when.</source>
+        <translation>Bir dosyayı kimin, ne zaman değiştirdiğini öğrenmek için geçmişi açın.</translation>
+    </message>
+    <message>
+        <source>Keep your files identical on all your computers by syncing them with the hub.</source>
+        <translation>Dosyalarınızı hub ile senkronize ederek tüm bilgisayarlarınızda hep aynı tutun.</translation>
+    </message>
+    <message>
+        <source>%1 file is being processed</source>
+        <translation>%1 dosya işleniyor</translation>
+    </message>
+    <message>
+        <source>%1 and the client have different versions. Please update both to the same version.</source>
+        <translation>%1 ile istemcinin sürümleri farklı. İkisini de aynı sürüme güncelleyin.</translation>
+    </message>
+    <message>
+        <source>Files being processed: %1</source>
+        <translation>İşlenen dosyalar: %1</translation>
+    </message>
+    <message>
+        <source>%1 files are being processed</source>
+        <translation>%1 dosya işleniyor</translation>
+    </message>
+    <message>
+        <source>The volume of this folder does not support quotas.</source>
+        <translation>Bu klasörün birimi kotaları desteklemiyor.</translation>
+    </message>
+    <message>
+        <source>Your personal storage quota is used up.</source>
+        <translation>Kişisel depolama kotanız doldu.</translation>
+    </message>
+    <message>
+        <source>Your home folder uses %1 of %2, and the shared folders use %3 of %4.</source>
+        <translation>Ana klasörünüzde %1 / %2, paylaşılan klasörlerde %3 / %4 kullanılıyor.</translation>
+    </message>
+    <message>
+        <source>The quota of the shared folder &quot;%1&quot; is used up.</source>
+        <translation>“%1” paylaşılan klasörünün kotası doldu.</translation>
+    </message>
+    <message>
+        <source>Some folders have reached their quotas.</source>
+        <translation>Bazı klasörler kotalarına ulaştı.</translation>
+    </message>
+    <message>
+        <source>The version cannot be restored because the file is excluded by a filter.</source>
+        <translation>Dosya bir filtreyle hariç tutulduğu için sürüm geri yüklenemiyor.</translation>
+    </message>
+    <message>
+        <source>Choose the folders to back up and where to store the backups.</source>
+        <translation>Yedeklenecek klasörleri ve yedeklerin saklanacağı yeri seçin.</translation>
+    </message>
+    <message>
+        <source>Choose what to back up</source>
+        <translation>Nelerin yedekleneceğini seçin</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because your account has been disabled on the hub.</source>
+        <translation>Hesabınız hub’da devre dışı bırakıldığı için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>Syncing...</source>
+        <translation>Senkronize ediliyor...</translation>
+    </message>
+    <message>
+        <source>Please ask your administrator to enable your account.</source>
+        <translation>Yöneticinizden hesabınızı etkinleştirmesini isteyin.</translation>
+    </message>
+    <message>
+        <source>Your account has been disabled on the hub. Please contact your administrator.</source>
+        <translation>Hesabınız hub’da devre dışı bırakıldı. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Account disabled</source>
+        <translation>Hesap devre dışı</translation>
+    </message>
+    <message>
+        <source>Show icons on files that are excluded by a filter</source>
+        <translation>Filtreyle hariç tutulan dosyalarda simge göster</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Depolama alanı</translation>
+    </message>
+    <message>
+        <source>Dialog box</source>
+        <translation>İletişim kutusu</translation>
+    </message>
+    <message>
+        <source>All tasks with this hub will be removed from this computer. The files will be kept. Do you want to continue?</source>
+        <translation>Bu hub ile ilgili tüm görevler bu bilgisayardan kaldırılacak. Dosyalar korunacak. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>The backup failed. Please try again.</source>
+        <translation>Yedekleme başarısız oldu. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The task could not be created. Please try again.</source>
+        <translation>Görev oluşturulamadı. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>You no longer have permission to access the shared folder &quot;%1&quot;.</source>
+        <translation>“%1” paylaşılan klasörüne artık erişim izniniz yok.</translation>
+    </message>
+    <message>
+        <source>Processing &quot;%1&quot;...</source>
+        <translation>“%1” işleniyor...</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Gün</translation>
+    </message>
+    <message>
+        <source>The task could not be loaded.</source>
+        <translation>Görev yüklenemedi.</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>İşlem</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>“%1” klasörü mevcut değil.</translation>
+    </message>
+    <message>
+        <source>Shut down the computer</source>
+        <translation>Bilgisayarı kapat</translation>
+    </message>
+    <message>
+        <source>You do not have permission to shut down this computer automatically.</source>
+        <translation>Bu bilgisayarı otomatik olarak kapatma izniniz yok.</translation>
+    </message>
+    <message>
+        <source>The backup was canceled.</source>
+        <translation>Yedekleme iptal edildi.</translation>
+    </message>
+    <message>
+        <source>The backup is complete.</source>
+        <translation>Yedekleme tamamlandı.</translation>
+    </message>
+    <message>
+        <source>Back up %1 times a day</source>
+        <translation>Günde %1 kez yedekle</translation>
+    </message>
+    <message>
+        <source>times</source>
+        <translation>kez</translation>
+    </message>
+    <message>
+        <source>Backup mode</source>
+        <translation>Yedekleme modu</translation>
+    </message>
+    <message>
+        <source>Do you want to start the backup now?</source>
+        <translation>Yedeklemeyi şimdi başlatmak istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>If this computer is turned off or asleep at the scheduled time, the backup starts as soon as it is running again.</source>
+        <translation>Bu bilgisayar zamanlanan saatte kapalı veya uyku durumundaysa yedekleme, bilgisayar yeniden çalışır çalışmaz başlar.</translation>
+    </message>
+    <message>
+        <source>Please select at least one day of the week.</source>
+        <translation>Haftanın en az bir gününü seçin.</translation>
+    </message>
+    <message>
+        <source>Last backup: %1</source>
+        <translation>Son yedekleme: %1</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>Her gün</translation>
+    </message>
+    <message>
+        <source>Manual backup</source>
+        <translation>Elle yedekleme</translation>
+    </message>
+    <message>
+        <source>Once a day</source>
+        <translation>Günde bir kez</translation>
+    </message>
+    <message>
+        <source>Continuous backup</source>
+        <translation>Sürekli yedekleme</translation>
+    </message>
+    <message>
+        <source>Scheduled backup</source>
+        <translation>Zamanlanmış yedekleme</translation>
+    </message>
+    <message>
+        <source>Set the backup plan</source>
+        <translation>Yedekleme planını ayarlayın</translation>
+    </message>
+    <message>
+        <source>Taking a snapshot...</source>
+        <translation>Anlık görüntü alınıyor...</translation>
+    </message>
+    <message>
+        <source>The backup plan could not be saved. Please try again.</source>
+        <translation>Yedekleme planı kaydedilemedi. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
+        <translation>0 ile %1 MB arasında bir boyut girin. Sınır koymamak için 0 girin.</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>Show the activity of this task</source>
+        <translation>Bu görevin etkinliğini göster</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Dakika</translation>
+    </message>
+    <message>
+        <source>Show removed items</source>
+        <translation>Kaldırılan öğeleri göster</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Kullanılan</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Ay</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used</source>
+        <translation>%1 / %2 kullanılıyor</translation>
+    </message>
+    <message>
+        <source>Background task</source>
+        <translation>Arka plan görevi</translation>
+    </message>
+    <message>
+        <source>Filter settings window</source>
+        <translation>Filtre ayarları penceresi</translation>
+    </message>
+    <message>
+        <source>Please enter a valid time.</source>
+        <translation>Geçerli bir saat girin.</translation>
+    </message>
+    <message>
+        <source>Not synced: excluded by a system rule</source>
+        <translation>Senkronize edilmedi: bir sistem kuralıyla hariç tutuldu</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Dışa aktar</translation>
+    </message>
+    <message>
+        <source>Edit connection</source>
+        <translation>Bağlantıyı düzenle</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Şimdi değil</translation>
+    </message>
+    <message>
+        <source>Created on</source>
+        <translation>Oluşturulma tarihi</translation>
+    </message>
+    <message>
+        <source>Backup tasks</source>
+        <translation>Yedekleme görevleri</translation>
+    </message>
+    <message>
+        <source>Sync tasks</source>
+        <translation>Senkronizasyonlar</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtreler</translation>
+    </message>
+    <message>
+        <source>Recently changed</source>
+        <translation>Son değiştirilenler</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Şimdi yedekle</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Equal to</source>
+        <translation>Eşittir</translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation>Küçüktür</translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation>Büyüktür</translation>
+    </message>
+    <message>
+        <source>Select a folder on this computer</source>
+        <translation>Bu bilgisayarda bir klasör seçin</translation>
+    </message>
+    <message>
+        <source>This folder is already part of a backup task of %1. Please choose another folder.</source>
+        <translation>Bu klasör zaten bir %1 yedekleme görevinde yer alıyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>This folder is already synced by Kelvane Quay Client and cannot be backed up as well. Please choose another folder.</source>
+        <translation>Bu klasör zaten Kelvane Quay Client ile senkronize edildiği için ayrıca yedeklenemez. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP adresi</translation>
+    </message>
+    <message>
+        <source>replied to your comment on</source>
+        <translation>şuradaki yorumunuza yanıt verdi:</translation>
+    </message>
+    <message>
+        <source>Open sync status</source>
+        <translation>Senkronizasyon durumunu aç</translation>
+    </message>
+    <message>
+        <source>Replies</source>
+        <translation>Yanıtlar</translation>
+    </message>
+    <message>
+        <source>Not synced</source>
+        <translation>Senkronize edilmedi</translation>
+    </message>
+    <message>
+        <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
+        <translation>Hub’daki Tessaly Server, %1 için çok eski. Yöneticinizden güncellemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>No connection to the hub</source>
+        <translation>Hub bağlantısı yok</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Advanced sharing</source>
+        <translation>Gelişmiş paylaşım</translation>
+    </message>
+    <message>
+        <source>The sharing settings could not be saved. Please try again.</source>
+        <translation>Paylaşım ayarları kaydedilemedi. Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Enable advanced sharing</source>
+        <translation>Gelişmiş paylaşımı etkinleştir</translation>
+    </message>
+    <message>
+        <source>Enable link protection</source>
+        <translation>Bağlantı korumasını etkinleştir</translation>
+    </message>
+    <message>
+        <source>is now shared with advanced settings.</source>
+        <translation>artık gelişmiş ayarlarla paylaşılıyor.</translation>
+    </message>
+    <message>
+        <source>Protected sharing</source>
+        <translation>Korumalı paylaşım</translation>
+    </message>
+    <message>
+        <source>Link protection</source>
+        <translation>Bağlantı koruması</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the link? It cannot be restored.</source>
+        <translation>Bağlantıyı kaldırmak istediğinizden emin misiniz? Geri yüklenemez.</translation>
+    </message>
+    <message>
+        <source>Remove this link?</source>
+        <translation>Bu bağlantı kaldırılsın mı?</translation>
+    </message>
+    <message>
+        <source>Save the logs of the client to a file that you can send to technical support.</source>
+        <translation>İstemcinin günlüklerini teknik desteğe gönderebileceğiniz bir dosyaya kaydedin.</translation>
+    </message>
+    <message>
+        <source>Enter a keyword</source>
+        <translation>Anahtar sözcük girin</translation>
+    </message>
+    <message>
+        <source>Remove link</source>
+        <translation>Bağlantıyı kaldır</translation>
+    </message>
+    <message>
+        <source>Troubleshooting</source>
+        <translation>Sorun giderme</translation>
+    </message>
+    <message>
+        <source>Record more details in the logs to help technical support find the cause of a problem.</source>
+        <translation>Teknik desteğin bir sorunun nedenini bulmasına yardımcı olmak için günlüklere daha fazla ayrıntı kaydedin.</translation>
+    </message>
+    <message>
+        <source>Export logs</source>
+        <translation>Günlükleri dışa aktar</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Dosya silindi</translation>
+    </message>
+    <message>
+        <source>The exported file contains:</source>
+        <translation>Dışa aktarılan dosyanın içeriği:</translation>
+    </message>
+    <message>
+        <source>Information about the operating system of this computer</source>
+        <translation>Bu bilgisayarın işletim sistemi hakkında bilgiler</translation>
+    </message>
+    <message>
+        <source>Advanced logging</source>
+        <translation>Gelişmiş günlük kaydı</translation>
+    </message>
+    <message>
+        <source>Advanced logs take up more space on the disk and may slow down the client.</source>
+        <translation>Gelişmiş günlükler diskte daha fazla yer kaplar ve istemciyi yavaşlatabilir.</translation>
+    </message>
+    <message>
+        <source>Privacy statement</source>
+        <translation>Gizlilik bildirimi</translation>
+    </message>
+    <message>
+        <source>The logs and settings of the client, without passwords</source>
+        <translation>İstemcinin günlükleri ve ayarları (parolalar hariç)</translation>
+    </message>
+    <message>
+        <source>Turn on advanced logging</source>
+        <translation>Gelişmiş günlük kaydını aç</translation>
+    </message>
+    <message>
+        <source>Not synced: excluded by a filter of the task</source>
+        <translation>Senkronize edilmedi: görevin bir filtresiyle hariç tutuldu</translation>
+    </message>
+    <message>
+        <source>Not synced: no permission</source>
+        <translation>Senkronize edilmedi: izin yok</translation>
+    </message>
+    <message>
+        <source>Terms of service</source>
+        <translation>Hizmet koşulları</translation>
+    </message>
+    <message>
+        <source>Please enter a size of less than %1 MB.</source>
+        <translation>%1 MB boyutundan küçük bir değer girin.</translation>
+    </message>
+    <message>
+        <source>This folder is already part of another backup task. Please choose another folder.</source>
+        <translation>Bu klasör zaten başka bir yedekleme görevinde yer alıyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>The task has stopped because of an unexpected error. Please restart the application.</source>
+        <translation>Görev, beklenmeyen bir hata nedeniyle durdu. Uygulamayı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>This file has no previous versions.</source>
+        <translation>Bu dosyanın önceki sürümü yok.</translation>
+    </message>
+    <message>
+        <source>On-demand sync could not be enabled for this task.</source>
+        <translation>Bu görev için isteğe bağlı senkronizasyon etkinleştirilemedi.</translation>
+    </message>
+    <message>
+        <source>The connection to the hub failed. Please check the address and your network.</source>
+        <translation>Hub’a bağlanılamadı. Adresi ve ağınızı kontrol edin.</translation>
+    </message>
+    <message>
+        <source>:</source>
+        <translation>:</translation>
+    </message>
+    <message>
+        <source>File added</source>
+        <translation>Dosya eklendi</translation>
+    </message>
+    <message>
+        <source>The name cannot start or end with a space.</source>
+        <translation>Ad boşlukla başlayamaz veya bitemez.</translation>
+    </message>
+    <message>
+        <source>The backup has stopped because the SSL certificate of the hub has changed.</source>
+        <translation>Hub’ın SSL sertifikası değiştiği için yedekleme durdu.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the hub has expired. Please contact your administrator.</source>
+        <translation>Hub’ın SSL sertifikasının süresi doldu. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>The hub is now able to index your entire home folder.</source>
+        <translation>Hub artık ana klasörünüzün tamamının dizinini oluşturabiliyor.</translation>
+    </message>
+    <message>
+        <source>You can now sync your entire home folder with this computer.</source>
+        <translation>Artık ana klasörünüzün tamamını bu bilgisayarla senkronize edebilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Kilitli</translation>
+    </message>
+    <message>
+        <source>Norvik disabled</source>
+        <translation>Norvik devre dışı</translation>
+    </message>
+    <message>
+        <source>The hub is preparing your home folder. Please try again later.</source>
+        <translation>Hub ana klasörünüzü hazırlıyor. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Dosya adı değiştirildi</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was updated</source>
+        <translation>“%1” güncellendi</translation>
+    </message>
+    <message>
+        <source>The name cannot contain any of the following characters: / : * ? &lt; &gt; |</source>
+        <translation>Ad şu karakterlerden hiçbirini içeremez: / : * ? &lt; &gt; |</translation>
+    </message>
+    <message>
+        <source>Norvik is disabled on the hub. Please contact your administrator.</source>
+        <translation>Norvik hub’da devre dışı. Yöneticinize başvurun.</translation>
+    </message>
+    <message>
+        <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>
+        <translation>Hesabınız hub’da devre dışı bırakıldığı için klasör kontrol edilemiyor.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>A task with this name already exists.</source>
+        <translation>Bu ada sahip bir görev zaten var.</translation>
+    </message>
+    <message>
+        <source>None of the selected folders can be used. Please choose another folder.</source>
+        <translation>Seçili klasörlerin hiçbiri kullanılamıyor. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>No valid folders</source>
+        <translation>Geçerli klasör yok</translation>
+    </message>
+    <message>
+        <source>Files stay on the hub until you open them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Learn more about on-demand sync&lt;/a&gt;</source>
+        <translation>Dosyalar siz açana kadar hub’da kalır. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;İsteğe bağlı senkronizasyon hakkında daha fazla bilgi&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Custom task name</source>
+        <translation>Özel görev adı</translation>
+    </message>
+    <message>
+        <source>The name helps you tell your tasks apart. It is shown on this computer only.</source>
+        <translation>Bu ad, görevlerinizi birbirinden ayırt etmenize yardımcı olur. Yalnızca bu bilgisayarda gösterilir.</translation>
+    </message>
+    <message>
+        <source>On-demand sync can be turned on or off in the settings of the task.</source>
+        <translation>İsteğe bağlı senkronizasyon, görevin ayarlarından açılıp kapatılabilir.</translation>
+    </message>
+    <message>
+        <source>This is a required field.</source>
+        <translation>Bu alan zorunludur.</translation>
+    </message>
+</context>
+</TS>

@@ -12,12 +12,14 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 
@@ -27,24 +29,16 @@ namespace {
 int signalPipe[2] = {-1, -1};
 
 void OnSignal(int /*signal*/) {
+    const int error = errno;
     const char byte = 1;
     if (write(signalPipe[1], &byte, 1) != 1) {
         _exit(1);
     }
+    errno = error;
 }
 
 QString PidFile() {
     return QDir::homePath() + QStringLiteral("/.KelvaneQuay/ui.pid");
-}
-
-bool AnotherRuns() {
-    QFile file(PidFile());
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray line = file.readLine().trimmed();
-    const int process = line.startsWith("pid=") ? line.mid(4).toInt() : 0;
-    return process > 0 && process != getpid() && kill(process, 0) == 0;
 }
 
 bool WritePidFile() {
@@ -72,7 +66,10 @@ bool QuitOnSigterm(QCoreApplication& application, int delaySeconds) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (AnotherRuns()) {
+    // A client that was just told to quit has a second to do so.
+    QLockFile lock(QDir::homePath() + QStringLiteral("/.KelvaneQuay/ui.lock"));
+    lock.setStaleLockTime(0);
+    if (!lock.tryLock(1000) && lock.error() == QLockFile::LockFailedError) {
         return 0;
     }
     QSettings info(QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/INFO"), QSettings::IniFormat);

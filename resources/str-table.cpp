@@ -27,6 +27,10 @@ QString LoadStr(int index) {
     return text;
 }
 
+QString LoadStrWithAppName(int index) {
+    return LoadStr(index).arg(LoadStr(kRowAppName), 0, QLatin1Char(' '));
+}
+
 int LookupStrID(QString key) {  // NOLINT(performance-unnecessary-value-param): the family's signature.
     for (int row = 0; row < kRowCount; ++row) {
         if (qstricmp(key.toLocal8Bit().constData(), ktab[row]) == 0) {

@@ -19,6 +19,9 @@ void InitStrTable();
 // Source: QCoreApplication::translate.
 QString LoadStr(int index);
 
+// The row's text with the product's name in place of its %1. Any thread.
+QString LoadStrWithAppName(int index);
+
 // The number of the row with this key, letter case ignored, or -1. Any thread.
 int LookupStrID(QString key);
 

@@ -5,7 +5,6 @@
 #include <QSettings>
 #include <cstdio>
 
-#include "backup-name.h"
 #include "extractor.h"
 #include "file-op.h"
 #include "log-statement.h"
@@ -15,8 +14,22 @@ namespace {
 
 constexpr char kComponent[] = "service_debug";
 
-std::string Utf8(const QString& text) {
-    return text.toStdString();
+// Backup names are tried from index 0 to this one.
+constexpr int kLastBackupIndex = 9;
+
+// The name beside the application folder under which an old copy is kept: index 0 has no digit.
+std::string GetAppBackupDir(const std::string& path, int index) {
+    std::string name = path + "_tmp";
+    if (index == 0) {
+        return name;
+    }
+    char postfix[8];  // more than the digits of any index in use
+    if (std::snprintf(postfix, sizeof(postfix), "%d", index) < 0) {
+        // No newline of its own: the log's readers know the line so.
+        LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
+        postfix[0] = '\0';
+    }
+    return name + postfix;
 }
 
 // Sets `field` if the open group has the key. The text ends at its first zero byte.
@@ -67,21 +80,7 @@ void RollBack(const std::string& appDir, const std::string& backupPath) {
 
 }  // namespace
 
-std::string GetAppBackupDir(const std::string& path, int index) {
-    std::string name = path + "_tmp";
-    if (index == 0) {
-        return name;
-    }
-    char postfix[8];  // more than the digits of any index in use
-    if (std::snprintf(postfix, sizeof(postfix), "%d", index) < 0) {
-        // No newline of its own: the log's readers know the line so.
-        LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
-        postfix[0] = '\0';
-    }
-    return name + postfix;
-}
-
-Service::Service() : timeout(10000), appPath(Utf8(TablePath("user_kelvane_quay_app_path"))) {
+Service::Service() : timeout(10000), appPath(TablePath("user_kelvane_quay_app_path").toStdString()) {
 }
 
 Service::~Service() = default;
@@ -95,7 +94,7 @@ QString Service::GetUserInstallPath() {
 }
 
 void Service::LoadSourceVersion() {
-    const std::string path = Utf8(TablePath("user_kelvane_quay_resource_path") + "/INFO");
+    const std::string path = (TablePath("user_kelvane_quay_resource_path") + "/INFO").toStdString();
     if (!IsFileExist(path, false)) {
         LOG_INFO(kComponent, "source does not exist\n");
         return;
@@ -107,7 +106,7 @@ void Service::LoadSourceVersion() {
 
 void Service::LoadTargetVersion() {
     // Deliberately without a test for the file: a bundle without INFO has four empty versions, and its line says so.
-    const std::string path = Utf8(TablePath("root_resource_path") + "/INFO");
+    const std::string path = (TablePath("root_resource_path") + "/INFO").toStdString();
     LoadVersion(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
     LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(), targetMinorVersion.c_str(),
              targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
@@ -133,8 +132,8 @@ int Service::PrepareUserEnv() {
 }
 
 int Service::ExtractPackage() {
-    const std::string package = Utf8(TablePath("root_resource_path") + "/package/tessaly.kpk");
-    const std::string target = Utf8(TablePath("user_kelvane_quay_app_path"));
+    const std::string package = (TablePath("root_resource_path") + "/package/tessaly.kpk").toStdString();
+    const std::string target = TablePath("user_kelvane_quay_app_path").toStdString();
     if (FSMKDir(target, true) < 0) {
         LOG_ERROR(kComponent, "failed to create folder: '%s'\n", target.c_str());
         return -1;
@@ -149,49 +148,26 @@ int Service::ExtractPackage() {
 void Service::MigrateService() {
     const QString oldRoot = QDir::toNativeSeparators(TablePath("user_tessaly_path"));
     const QString newRoot = QDir::toNativeSeparators(TablePath("user_kelvane_quay_path"));
-    if (!IsFileExist(Utf8(newRoot), true) && FSMKDir(Utf8(newRoot), true) < 0) {
+    if (!IsFileExist(newRoot.toStdString(), true) && FSMKDir(newRoot.toStdString(), true) < 0) {
         LOG_ERROR(kComponent, "Failed to create Kelvane Quay folder\n");
         return;
     }
-    const std::string oldData = Utf8(QDir::toNativeSeparators(oldRoot + "/data"));
-    const std::string newData = Utf8(QDir::toNativeSeparators(newRoot + "/data"));
+    const std::string oldData = QDir::toNativeSeparators(oldRoot + "/data").toStdString();
+    const std::string newData = QDir::toNativeSeparators(newRoot + "/data").toStdString();
     if (IsFileExist(oldData, true) && FSRename(oldData, newData, true) < 0) {
         LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
     }
     // Deliberately whatever became of the move: the older product goes, and the settled order has no test here.
-    if (IsFileExist(Utf8(oldRoot), true) && FSRemove(Utf8(oldRoot), false) < 0) {
+    if (IsFileExist(oldRoot.toStdString(), true) && FSRemove(oldRoot.toStdString(), false) < 0) {
         LOG_ERROR(kComponent, "Failed to remove old .Tessaly folder\n");
     }
 }
 
 void Service::RemoveAgedFolders() {
-    const std::string agedApp = Utf8(TablePath("user_tessaly_path") + "/app");
+    const std::string agedApp = (TablePath("user_tessaly_path") + "/app").toStdString();
     LOG_INFO(kComponent, "removing aged app folder %s\n", agedApp.c_str());
     FSRemove(agedApp, false);
 }
-
-namespace {
-
-// Copies the entries of an open listing of `src` by way of `copyFolder` (folders) and FSCopy (all else). 0 or -1.
-template <typename CopyFolder>
-int CopyEntries(DIR_HANDLE& listing, const std::string& src, const std::string& dst, CopyFolder copyFolder) {
-    DIR_ENTRY entry = {};
-    while (FSReadDir(listing, entry) > 0) {
-        if (entry.name == "." || entry.name == "..") {
-            continue;
-        }
-        const std::string from = src + "/" + entry.name;
-        const std::string to = dst + "/" + entry.name;
-        const int copied = entry.type == FILE_TYPE_DIRECTORY ? copyFolder(from, to) : FSCopy(from, to, false, false);
-        if (copied < 0) {
-            LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
-            return -1;
-        }
-    }
-    return 0;
-}
-
-}  // namespace
 
 int Service::FSCopyPath(const std::string& src, const std::string& dst) {
     LOG_DEBUG(kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
@@ -219,8 +195,20 @@ int Service::FSCopyPath(const std::string& src, const std::string& dst) {
         LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n", src.c_str());
         return 0;
     }
-    const int result = CopyEntries(
-        listing, src, dst, [this](const std::string& from, const std::string& to) { return FSCopyPath(from, to); });
+    int result = 0;
+    DIR_ENTRY entry = {};
+    while (result == 0 && FSReadDir(listing, entry) > 0) {
+        if (entry.name == "." || entry.name == "..") {
+            continue;
+        }
+        const std::string from = src + "/" + entry.name;
+        const std::string to = dst + "/" + entry.name;
+        const int copied = entry.type == FILE_TYPE_DIRECTORY ? FSCopyPath(from, to) : FSCopy(from, to, false, false);
+        if (copied < 0) {
+            LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
+            result = -1;
+        }
+    }
     FSCloseDir(listing);
     return result;
 }

@@ -5,11 +5,6 @@
 #include <cstdint>
 #include <string>
 
-// lhs followed by rhs, which is UTF-8.
-inline QString operator+(const QString& lhs, const char* rhs) {
-    return QString(lhs).append(QString::fromUtf8(rhs));
-}
-
 // What is the same on every platform: the version data, the install with its backup and rollback, the migration.
 //
 // "Source" is what is installed in the private copy, "target" what the started bundle carries. A service is made on the
@@ -22,7 +17,7 @@ public:
     // Stops the client that runs from the private copy, if one does. Blocks for up to about 15 seconds.
     virtual void StopService() = 0;
 
-    // A time limit that no part of the program reads.
+    // Stores a limit, of no unit, that no part of the program reads.
     virtual void SetTimeout(int value);
 
     // Carries the upgrade out. 0: the new copy is in place; anything else: it is not.
@@ -81,9 +76,9 @@ protected:
     std::string sourceIconOverlayVersion;
 };
 
-// The paths below the application folder that the client family's programs share. Nothing in the launcher uses them:
-// its own files lie in the bundle's Resources folder (see main()), and neither side is to be changed to match the
-// other.
+// Paths that the client family's programs share, below the application folder but for the log's. Nothing in the
+// launcher uses them: its own files lie in the bundle's Resources folder (path-table.cpp), and neither side is to be
+// changed to match the other.
 class PackageInfo {
 public:
     // Needs a QCoreApplication, for its folder.

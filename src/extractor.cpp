@@ -3,7 +3,6 @@
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <QString>
 #include <iostream>
 #include <memory>
 
@@ -40,10 +39,19 @@ void SupportAll(archive* reader) {
     archive_read_support_format_all(reader);
 }
 
-// "Kelvane Quay Client is initializing..." in the user's language.
-QString InitializingText() {
-    return StrTable::LoadStr(StrTable::kRowInitializing)
-        .arg(StrTable::LoadStr(StrTable::kRowAppName), 0, QLatin1Char(' '));
+// Opens `path` with every filter and format, for Count and List. Null, with the reason in the log, where that fails.
+Reader OpenForReading(const std::string& path) {
+    Reader reader(archive_read_new());
+    if (!reader) {
+        LOG_ERROR(kComponent, "Allocate archive failed\n");
+        return nullptr;
+    }
+    SupportAll(reader.get());
+    if (archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
+        return nullptr;
+    }
+    return reader;
 }
 
 // Writes one entry, whose header was just read, below `destPath`, and reports it. 0 or -1.
@@ -98,7 +106,7 @@ int Extractor::Extract() {
         return -1;
     }
     LOG_DEBUG(kComponent, "decompress from '%s' to '%s'\n", sourcePath.c_str(), destPath.c_str());
-    Notify_Adapter::GetInstance()->UpdateDialogText(InitializingText());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStrWithAppName(StrTable::kRowInitializing));
 
     const int total = Count();
     if (total <= 0) {
@@ -106,12 +114,13 @@ int Extractor::Extract() {
         return -1;
     }
 
+    Writer writer;  // declared first, so that the reader is freed before it
     const Reader reader(archive_read_new());
     if (!reader) {
         LOG_ERROR(kComponent, "Allocate extractor failed\n");
         return -1;
     }
-    const Writer writer(archive_write_disk_new());
+    writer.reset(archive_write_disk_new());
     if (!writer) {
         LOG_ERROR(kComponent, "Allocate extractor failed\n");
         return -1;
@@ -131,14 +140,8 @@ int Extractor::Count() {
         LOG_ERROR(kComponent, "Invalid argument\n");
         return -1;
     }
-    const Reader reader(archive_read_new());
+    const Reader reader = OpenForReading(sourcePath);
     if (!reader) {
-        LOG_ERROR(kComponent, "Allocate archive failed\n");
-        return -1;
-    }
-    SupportAll(reader.get());
-    if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
         return -1;
     }
     int count = 0;
@@ -156,14 +159,8 @@ int Extractor::List() {
         // Deliberately no return: a listing needs no destination, and a missing source fails at its open.
         LOG_ERROR(kComponent, "Invalid argument\n");
     }
-    const Reader reader(archive_read_new());
+    const Reader reader = OpenForReading(sourcePath);
     if (!reader) {
-        LOG_ERROR(kComponent, "Allocate archive failed\n");
-        return -1;
-    }
-    SupportAll(reader.get());
-    if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
         return -1;
     }
     archive_entry* entry = nullptr;

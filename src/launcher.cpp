@@ -20,22 +20,17 @@ constexpr char kComponent[] = "launcher_debug";
 constexpr double kDialogWidth = 400.0;
 constexpr double kDialogHeight = 80.0;
 
-// A row of the string table with the product's name in its placeholder.
-QString TextWithName(int row) {
-    return StrTable::LoadStr(row).arg(StrTable::LoadStr(StrTable::kRowAppName), 0, QLatin1Char(' '));
-}
-
 }  // namespace
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font = QApplication::font();
-    const QString icon = TablePath("root_resource_path") + QStringLiteral("/images/ico_72_tessaly.png");
+    const QString icon = TablePath("root_resource_path") + "/images/ico_72_tessaly.png";
     setWindowTitle(StrTable::LoadStr(StrTable::kRowAppName));
     setWindowIcon(QIcon(icon));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);
-    setLabelText(TextWithName(StrTable::kRowInitializing));
+    setLabelText(StrTable::LoadStrWithAppName(StrTable::kRowInitializing));
     setFont(font);
     setModal(true);
     setWindowModality(Qt::WindowModal);
@@ -83,7 +78,7 @@ void Worker::Upgrade() {
         return;
     }
     Q_EMIT sigUpdateProgress(100, 100);
-    Q_EMIT sigSetLabelText(TextWithName(StrTable::kRowReady));
+    Q_EMIT sigSetLabelText(StrTable::LoadStrWithAppName(StrTable::kRowReady));
 }
 
 void Worker::HandleServicce() {

@@ -22,7 +22,7 @@ void FillPathTable(const QString& home, const QString& applicationFolder) {
     };
     for (const auto& entry : paths) {
         UIPathManager::getInstance()->setPath(QString::fromLatin1(entry.key),
-                                              QDir::cleanPath(entry.base + QString::fromLatin1(entry.below)));
+                                              QDir::cleanPath(entry.base + entry.below));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <tuple>
+#include <utility>
 
 #include "file-op.h"
 #include "file-reference.h"
@@ -78,9 +79,6 @@ int FindSpelling(const std::string& path, std::string& spelled) {
     return platform::SpelledPath(path, platform::Leaf::Keep, spelled);
 }
 
-// What the platform's spellings fit into.
-constexpr std::size_t kLongestSpelling = 4095;
-
 }  // namespace
 
 int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
@@ -89,7 +87,7 @@ int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
 
 int GetEntryInfo(const std::string& path, const std::string& spelled, _FILE_INFO_tag& info) {
     return FillInfo(path, info, [&spelled](const std::string& input, std::string& out) {
-        if (spelled.size() > kLongestSpelling) {
+        if (spelled.size() > platform::kLongestPath) {
             return FindSpelling(input, out);  // has a status for it
         }
         out = spelled;

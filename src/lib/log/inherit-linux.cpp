@@ -2,7 +2,7 @@
 
 #include "log-file.h"
 
-// A client started by the process would otherwise keep the log file open, rotated generations included.
+// A program that this one starts would otherwise keep the log file open, rotated generations included.
 // Source: fcntl(2).
 void SetHandleFlagInheritFalse(std::FILE* stream) {
     const int descriptor = fileno(stream);

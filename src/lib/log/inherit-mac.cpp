@@ -1,6 +1,6 @@
 #include "log-file.h"
 
-// Deliberately nothing: the only child here is /usr/bin/open, which has the client started by the system's own launch
-// service, so that the client doesn't descend from this process.
+// Deliberately nothing: applications are started by the system's own launch service here and don't descend from this
+// process.
 void SetHandleFlagInheritFalse(std::FILE* /*stream*/) {
 }

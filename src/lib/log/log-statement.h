@@ -30,13 +30,13 @@ constexpr const char* FileName(const char* path) {
 
 }  // namespace log_statement
 
-#define LOG_STATEMENT(level, tag, component, text, ...)                                                       \
-    do {                                                                                                      \
-        if (Logger::IsNeedToLog(level, component)) {                                                          \
-            Logger::LogMsg(level, component, "(%5d:%5d) " tag " %s(%d): " text, log_statement::ProcessId(),   \
-                           log_statement::ThreadNumber(), log_statement::FileName(__FILE__),                  \
-                           __LINE__ __VA_OPT__(, ) __VA_ARGS__);                                              \
-        }                                                                                                     \
+#define LOG_STATEMENT(level, tag, component, text, ...)                                                     \
+    do {                                                                                                    \
+        if (Logger::IsNeedToLog(level, component)) {                                                        \
+            Logger::LogMsg(level, component, "(%5d:%5d) " tag " %s(%d): " text, log_statement::ProcessId(), \
+                           log_statement::ThreadNumber(), log_statement::FileName(__FILE__),                \
+                           __LINE__ __VA_OPT__(, ) __VA_ARGS__);                                            \
+        }                                                                                                   \
     } while (false)
 
 #define LOG_ERROR(component, ...) LOG_STATEMENT(Logger::LEVEL_ERROR, "[ERROR]", component, __VA_ARGS__)

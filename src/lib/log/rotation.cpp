@@ -31,7 +31,8 @@ int Logger::RotateIfFileBig(int written) {
         return 0;
     }
     const int result = Rotate();
-    // Deliberately after a failure too: until then each message would try again.
+    // Deliberately after a failure too. The stream is null then, and logging is off; the threads that already wait for
+    // the lock would otherwise try again, each of them.
     *log_size = 0;
     return result;
 }
@@ -90,13 +91,4 @@ void Logger::ReloadLogFile() {
     log_fp = file;
     *log_size = GetFileSize(log_path);
     log_rotated_count_private = *log_rotated_count_shared;
-}
-
-std::string toXString(const std::string& path) {
-    return path;
-}
-
-template <>
-std::FILE* xfopen<char>(const std::string& path) {
-    return std::fopen(path.c_str(), "a");
 }

@@ -1,3 +1,4 @@
+// How Qt takes the bytes of paths.
 #pragma once
 
 // Makes Qt take the bytes of paths and of the environment for UTF-8, whatever the user's locale says, as the rest of

@@ -14,12 +14,16 @@
 
 namespace {
 
-// A folder that this user alone can write: XDG_RUNTIME_DIR, or one of our own below the folder for temporary files.
+// A folder that this user alone can write: XDG_RUNTIME_DIR; where it is not set, as in a session of another kind, the
+// place where the system keeps it; or one of our own below the folder for temporary files.
 // QStandardPaths would do, but it talks to standard error about every machine that sets no XDG_RUNTIME_DIR.
 QString RuntimeFolder() {
-    const QString given = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!given.isEmpty() && QFileInfo(given).isDir() && QFileInfo(given).isWritable()) {
-        return given;
+    for (const QString& given :
+         {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid())}) {
+        const QFileInfo folder(given);
+        if (!given.isEmpty() && folder.isDir() && folder.isWritable()) {
+            return given;
+        }
     }
     const QString own =
         QDir::tempPath() + QStringLiteral("/%1-%2").arg(QCoreApplication::applicationName()).arg(getuid());

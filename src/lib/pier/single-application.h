@@ -10,9 +10,9 @@
 //
 // The first process holds a lock file in the user's runtime folder for as long as this object lives. A process that was
 // killed leaves the file behind, but its lock is void with its end: the next process takes it over at once, or after a
-// tenth of a second if the first was killed before it had written its name. The lock
-// never times out: work may take as long as it wants. Where no lock file can be made at all, no other process counts as
-// running: a user is never kept from the client by a missing folder. Main thread only.
+// tenth of a second if the first was killed before it had written its name. The lock never times
+// out: work may take as long as it wants. Where no lock file can be made at all, no other process counts as running: a
+// user is never kept from the client by a missing folder. Main thread only.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 

@@ -13,6 +13,7 @@ TEST(KelvaneLocale, CodeOfALanguageTag) {
         const char* tag;
         const char* code;
     } tags[] = {
+        // clang-format off
         // Chinese: the script counts before the region, the region before nothing.
         {"zh", "chs"}, {"zh-CN", "chs"}, {"zh-SG", "chs"}, {"zh-MY", "chs"}, {"zh-Hans", "chs"}, {"zh-Hans-CN", "chs"},
         {"zh-Hans-HK", "chs"}, {"zh-Hans-TW", "chs"}, {"zh-Hant", "cht"}, {"zh-Hant-TW", "cht"}, {"zh-Hant-HK", "cht"},
@@ -34,6 +35,7 @@ TEST(KelvaneLocale, CodeOfALanguageTag) {
         // No catalog: English.
         {"ar", "enu"}, {"he-IL", "enu"}, {"uk-UA", "enu"}, {"C", "enu"}, {"POSIX", "enu"}, {"", "enu"}, {"xx", "enu"},
         {"dej", "enu"}, {"-", "enu"}, {"zhx", "enu"},
+        // clang-format on
     };
     for (const auto& entry : tags) {
         EXPECT_EQ(KelvaneLocale::LanguageOf({QString::fromLatin1(entry.tag)}), QString::fromLatin1(entry.code))

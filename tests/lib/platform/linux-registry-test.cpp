@@ -63,13 +63,15 @@ TEST_F(LinuxRegistryTest, DropsTheEntriesOfTheFolderAndNoOther) {
     Write(Entry("by way of"), head + "Exec=\"" + app + "/../K.app//bin/x\"\n");
     Write(Entry("other"), head + "Exec=\"" + app + "2/bin/x\"\n");
     Write(Entry("argument"), head + "Exec=/usr/bin/open \"" + app + "/bin/x\"\n");
+    Write(Entry("action"), head + "Exec=x\n[Desktop Action a]\nExec=\"" + app + "/bin/x\"\n");
+    Write(Entry("other group"), "[Something Else]\nExec=\"" + app + "/bin/x\"\n");
     Write(Entry("comment"), head + "#Exec=\"" + app + "/bin/x\"\n");
     Write(At("data/applications/not-an-entry.txt"), "Exec=\"" + app + "/bin/x\"\n");
     EXPECT_EQ(Forget(), 0);
     for (const char* name : {"ours", "ours too", "by way of"}) {
         EXPECT_FALSE(fs::exists(Entry(name))) << name;
     }
-    for (const char* name : {"other", "argument", "comment"}) {
+    for (const char* name : {"other", "argument", "action", "other group", "comment"}) {
         EXPECT_TRUE(fs::exists(Entry(name))) << name;
     }
     EXPECT_TRUE(fs::exists(At("data/applications/not-an-entry.txt")));

@@ -53,9 +53,17 @@ bool DesktopEntryRunsFrom(const QString& file, const QString& folder) {
     if (!entry.open(QIODevice::ReadOnly)) {
         return false;
     }
+    bool isMain = false;
     // Lines are read by hand: QSettings would take a ";" or a "," in a value for syntax of its own.
     while (!entry.atEnd()) {
         const QString line = QString::fromUtf8(entry.readLine()).trimmed();
+        if (line.startsWith(QLatin1Char('['))) {
+            // Other groups, such as those of an application's further actions, don't say whose entry it is.
+            isMain = line == QLatin1String("[Desktop Entry]");
+        }
+        if (!isMain) {
+            continue;
+        }
         const QString key = line.section(QLatin1Char('='), 0, 0).trimmed();
         const QString value = line.section(QLatin1Char('='), 1).trimmed();
         if ((key == QLatin1String("Exec") && LiesIn(ProgramOfExec(value), folder)) ||

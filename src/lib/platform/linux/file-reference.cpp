@@ -16,8 +16,7 @@ namespace platform {
 
 namespace {
 
-// PATH_MAX counts the terminator.
-constexpr std::size_t kLongestPath = PATH_MAX - 1;
+static_assert(kLongestPath == PATH_MAX - 1, "PATH_MAX counts the terminator");
 
 // Writes the absolute path of what `path` leads to. 0, or the errno.
 int Resolve(const std::string& path, std::string& resolved) {
@@ -87,8 +86,8 @@ std::string ListedName(const std::string& folder, const std::string& name) {
 // Which folders take two spellings for one is asked of each folder itself, by one lstat of a name that it would find
 // only then. That holds for any folder of any volume, where the kind of the volume does not tell: ext4, F2FS, tmpfs and
 // others have single folders that ignore case, XFS volumes may, FUSE serves both kinds. It is also the cheaper way, as
-// statfs would take a call for each folder too, and three more for its casefold flag. The inode of what is found decides
-// nothing: a FUSE server may give each spelling a number of its own.
+// statfs would take a call for each folder too, and three more for its casefold flag. The inode of what is found
+// decides nothing: a FUSE server may give each spelling a number of its own.
 std::string SpellNames(const std::string& path) {
     std::string spelled = "/";
     for (std::size_t at = 1; at < path.size();) {

@@ -1,0 +1,33 @@
+// The built quay-package on things that are made for the test.
+#pragma once
+
+#include <QJsonObject>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "launcher-test.h"
+
+class QuayTest : public LauncherTest {
+protected:
+    // Runs the tool with these arguments in the fixture's environment.
+    Outcome Run(const std::vector<std::string>& arguments) const;
+
+    // The same with --json: the object that it printed.
+    QJsonObject RunJson(std::vector<std::string> arguments, int exitCode) const;
+
+    // The codes of an object's findings, each once.
+    static std::set<std::string> Codes(const QJsonObject& object);
+
+    // A client's folder that has all that a good one needs: programs, links, names outside ASCII.
+    std::string MakeClient(const std::string& name = "client", int build = 7) const;
+
+    // Packs a client's folder; the package's path.
+    std::string MakePackage(const std::string& client, int build = 7) const;
+
+    // Lays a bundle with the real launcher at "bundle", where Launch() looks for it.
+    std::string MakeBundle(const std::string& package) const;
+
+    // The names in a folder.
+    static std::set<std::string> Names(const std::string& folder);
+};

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QTimer>
 #include <climits>
 
 #include "dpi-info.h"
@@ -70,6 +71,10 @@ void Worker::JoinThread() {
     thread->wait(ULONG_MAX);
 }
 
+bool Worker::IsThreadRunning() const {
+    return thread->isRunning();
+}
+
 void Worker::Upgrade() {
     Q_EMIT sigShowMsg();
     if (service->HandlePackageUpgrade() != 0) {
@@ -123,6 +128,9 @@ void Launcher::Run() {
 
 void Launcher::Start() {
     Q_EMIT sigStart();
+    if (!worker->IsThreadRunning()) {
+        QTimer::singleShot(0, this, [this] { worker->HandleServicce(); });
+    }
 }
 
 void Launcher::UpdateProgress(int total, int steps) {

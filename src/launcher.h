@@ -44,6 +44,9 @@ public:
     void QuitThread();
     void JoinThread();
 
+    // Whether the handler thread runs: it does not where the system gave none. Main thread.
+    bool IsThreadRunning() const;
+
 Q_SIGNALS:
     // All are emitted on the handler thread by HandleServicce; connections queue them for the main thread in order.
     void sigServiceDone();                        // last, once a run
@@ -74,7 +77,9 @@ public:
     // Starts the handler thread.
     void Run();
 
-    // Emits sigStart. May be called before the event loop runs: what the worker answers waits in the queue.
+    // Emits sigStart. Where the handler thread could not be started, the work is done on the main thread, from within
+    // its event loop: the dialog stands still meanwhile, but the client starts. May be called before the event loop
+    // runs: what the worker answers waits in the queue.
     void Start();
 
 Q_SIGNALS:

@@ -16,6 +16,7 @@
 #include "single-application.h"
 #include "str-table.h"
 #include "texts.h"
+#include "write-signals.h"
 
 namespace {
 
@@ -80,6 +81,7 @@ int main(int argc, char** argv) {
     QtSingleApplication application(argc, argv, true);
     std::setlocale(LC_ALL, "");
     platform::EnsureUtf8CharacterSet();
+    platform::IgnoreWriteSignals();
     qInitResources_texts();
     FillPathTable(Service::GetUserInstallPath(), QCoreApplication::applicationDirPath());
     StartLog();

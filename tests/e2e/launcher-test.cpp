@@ -26,7 +26,7 @@ std::string ClientScript(int build) {
 LauncherTest::LauncherTest() : home_(At("home")), mailbox_(At("mailbox")) {
     fs::create_directories(home_);
     fs::create_directories(At("run"));
-    fs::permissions(At("run"), fs::perms::all);
+    fs::permissions(At("run"), fs::perms::owner_all);
     environment_ = {
         {"HOME", home_},
         {"KQ_TEST_MAILBOX", mailbox_.path()},

@@ -1,8 +1,10 @@
 // The launcher and other processes: running clients, second starts, and an end in the middle of the work.
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "launcher-test.h"
 
@@ -106,6 +108,11 @@ TEST_F(ProcessTest, PidFilesThatNameNobody) {
         EXPECT_EQ(Logged("[NOTE] Failed to read pid file '" + Private("ui.pid") + "', not exist ?"), entry.unreadable);
         EXPECT_FALSE(Logged("[ERROR]"));
     }
+    // A FIFO keeps nobody waiting.
+    fs::remove(Private("ui.pid"));
+    EXPECT_EQ(mkfifo(Private("ui.pid").c_str(), 0600), 0);
+    LayBundle(++build);
+    ExpectLaunched(Launch(), build);
     // A folder in the file's place can be opened but not read: no key in it.
     fs::remove(Private("ui.pid"));
     fs::create_directories(Private("ui.pid"));
@@ -172,6 +179,60 @@ TEST_F(ProcessTest, WithoutARuntimeFolderTheInstancesStillMeet) {
     kill(client.id(), SIGKILL);
     client.AwaitEnd();
     ExpectLaunched(first.Wait(), 2000);
+}
+
+TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
+    LayBundle(1000);
+    ExpectLaunched(Launch(), 1000);
+    std::string lock;
+    for (const fs::directory_entry& entry : fs::directory_iterator(At("run"))) {
+        EXPECT_TRUE(lock.empty());
+        lock = entry.path().string();
+    }
+    const struct {
+        const char* about;
+        std::function<void()> lay;
+    } cases[] = {
+        {"text of an earlier process", [&] { Write(lock, "1\nkelvane-quay-launcher\nhere\n"); }},
+        {"a folder", [&] { fs::create_directory(lock); }},
+        {"a dangling link", [&] { fs::create_symlink("nowhere", lock); }},
+        {"a link in a circle", [&] { fs::create_symlink(lock, lock); }},
+        {"a FIFO", [&] { EXPECT_EQ(mkfifo(lock.c_str(), 0600), 0); }},
+        {"a file that can't be read",
+         [&] {
+             Write(lock, "");
+             fs::permissions(lock, fs::perms::none);
+         }},
+    };
+    int build = 1000;
+    for (const auto& entry : cases) {
+        SCOPED_TRACE(entry.about);
+        fs::remove(lock);
+        entry.lay();
+        LayBundle(++build);
+        ExpectLaunched(Launch(), build);
+    }
+    // A folder that others can write is no place for a lock.
+    fs::permissions(At("run"), fs::perms::all);
+    fs::remove(lock);
+    environment_["TMPDIR"] = folder();
+    LayBundle(++build);
+    ExpectLaunched(Launch(), build);
+    EXPECT_FALSE(fs::exists(lock));
+}
+
+TEST_F(ProcessTest, WithoutAThreadTheWorkIsDoneAllTheSame) {
+    InstallClient(1000);
+    LayBundle(2000);
+    environment_["ASAN_OPTIONS"] = "detect_leaks=0";  // which a traced process can't do
+    const Outcome outcome = RunProcess({"/usr/bin/strace", "-f", "-qq", "-o", "/dev/null", "-e", "trace=clone3,clone",
+                                        "-e", "inject=clone3:error=EAGAIN:when=1", Arguments().front()},
+                                       environment_);
+    if (outcome.exitCode != 0) {
+        GTEST_SKIP() << "needs strace: " << outcome.errors;
+    }
+    EXPECT_EQ(mailbox_.ReadLine(), StartedLine(2000));
+    EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), ClientTree(2000));
 }
 
 // Kills the launcher at the n-th call of a kind that changes what is on disk, for n from 1 until a run survives. After

@@ -248,6 +248,7 @@ TEST_F(UpgradeTest, ReadOnlyPrivateFolderKeepsTheOldCopy) {
     fs::permissions(folder(), static_cast<fs::perms>(0755));
     fs::create_directories(Private("log"));
     fs::permissions(Private("log"), static_cast<fs::perms>(0777));
+    ASSERT_EQ(chown(At("run").c_str(), kUser, kUser), 0);
     const Tree before = PrivateTree();
     const Outcome outcome = Launch(kUser);
     ExpectLaunched(outcome, 1000);
@@ -328,6 +329,22 @@ TEST_F(UpgradeTest, PackageFormats) {
         ExpectLaunched(Launch(), build);
         EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), ClientTree(build));
     }
+}
+
+TEST_F(UpgradeTest, TheClientStartsWithAllSignalsAsTheyAreByDefault) {
+    LayBundle(1000);
+    std::vector<PackageEntry> entries = ClientEntries(1000);
+    entries[8].content = "#!/bin/sh\ngrep -E '^Sig(Blk|Ign)' /proc/self/status > \"$KQ_TEST_MAILBOX\"\n";
+    WritePackage(At("bundle/Contents/Resources/package/tessaly.kpk"), entries);
+    const Outcome outcome = RunProcess(
+        {"/usr/bin/env", "--ignore-signal=TERM", "--ignore-signal=HUP", "--block-signal=USR1", Arguments().front()},
+        environment_);
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
+    EXPECT_EQ(mailbox_.ReadLine(), "SigBlk:\t0000000000000000");
+    // The two signals above 31 are the C library's own.
+    const std::string ignored = mailbox_.ReadLine();
+    ASSERT_EQ(ignored.find("SigIgn:\t"), 0U);
+    EXPECT_EQ(std::stoull(ignored.substr(8), nullptr, 16) & 0x7FFFFFFF, 0U) << ignored;
 }
 
 TEST_F(UpgradeTest, TheClientHoldsNoneOfTheLaunchersFiles) {

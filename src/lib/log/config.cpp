@@ -1,5 +1,7 @@
 #include "config.h"
 
+#include <sys/stat.h>
+
 #include <cstdio>
 #include <locale>
 #include <memory>
@@ -12,6 +14,12 @@ constexpr std::size_t kLineBuffer = 8192;
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
+
+// Whether the path leads to what may keep a reader waiting, or reading, without an end: a FIFO, a device.
+bool IsEndless(const std::string& path) {
+    struct stat info {};
+    return stat(path.c_str(), &info) == 0 && (S_ISFIFO(info.st_mode) || S_ISCHR(info.st_mode));
+}
 
 char* SkipWhile(bool (*test)(unsigned char), char* at) {
     while (test(static_cast<unsigned char>(*at))) {
@@ -37,6 +45,9 @@ bool Config::is_value_char(unsigned char byte) {
 
 int Config::read(const std::string& path) {
     if (path.empty()) {
+        return -1;
+    }
+    if (IsEndless(path)) {
         return -1;
     }
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "r"));

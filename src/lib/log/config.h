@@ -26,9 +26,9 @@ public:
     };
 
     // Adds the entries of the file at `path` (bytes as the file system takes them) to those already held; of two with
-    // the same key the later one stands. 0 on success. -1 if the path is empty or the file can't be opened, with the
-    // entries as they were, or if a line is malformed, with no entry left at all. A line of more than 8191 bytes is
-    // taken in pieces, each as a line of its own. Logs nothing. Source: fopen(3), fgets(3).
+    // the same key the later one stands. 0 on success. -1 if the path is empty, leads to a FIFO or a device, or can't
+    // be opened, with the entries as they were, or if a line is malformed, with no entry left at all. A line of more
+    // than 8191 bytes is taken in pieces, each as a line of its own. Logs nothing. Source: fopen(3), fgets(3).
     int read(const std::string& path);
 
     // Parses one zero-terminated line in place: on PARSE_ENTRY the buffer is cut behind the key and the value, which

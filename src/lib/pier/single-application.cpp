@@ -1,5 +1,7 @@
 #include "single-application.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -7,34 +9,64 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
+#include <QStringList>
+#include <cerrno>
 #include <cstdio>
 
 #include "path-encoding.h"
 
 namespace {
 
-// A folder that this user alone can write: XDG_RUNTIME_DIR; where it is not set, as in a session of another kind, the
-// place where the system keeps it; or one of our own below the folder for temporary files.
-// QStandardPaths would do, but it talks to standard error about every machine that sets no XDG_RUNTIME_DIR.
-QString RuntimeFolder() {
-    for (const QString& given :
-         {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid())}) {
-        const QFileInfo folder(given);
-        if (!given.isEmpty() && folder.isDir() && folder.isWritable()) {
-            return given;
-        }
-    }
+// Whether the folder is this user's and nobody else may write it: what lies in it is then no stranger's doing.
+bool IsPrivate(const QString& folder) {
+    struct stat info = {};
+    return lstat(QFile::encodeName(folder).constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == getuid() && (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+// The folders that may hold the lock, the best first: XDG_RUNTIME_DIR; where that is not set, as in a session of
+// another kind, the place where the system keeps it; and one of our own below the folder for temporary files.
+// QStandardPaths would do for the first, but it talks to standard error about every machine that does not set it.
+QStringList RuntimeFolders() {
     const QString own =
         QDir::tempPath() + QStringLiteral("/%1-%2").arg(QCoreApplication::applicationName()).arg(getuid());
-    const QByteArray path = QFile::encodeName(own);
-    mkdir(path.constData(), S_IRWXU);
-    struct stat info = {};
-    // The folder for temporary files belongs to everybody: a stranger's folder of that name, or a link, is not ours.
-    if (lstat(path.constData(), &info) != 0 || !S_ISDIR(info.st_mode) || info.st_uid != getuid()) {
-        return QDir::homePath();
+    mkdir(QFile::encodeName(own).constData(), S_IRWXU);
+    QStringList folders;
+    for (const QString& folder :
+         {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid()), own}) {
+        if (!folder.isEmpty() && IsPrivate(folder)) {
+            folders << folder;
+        }
     }
-    return own;
+    return folders;
+}
+
+// Named after the executable and the home folder, so that two homes do not meet.
+QString LockName() {
+    QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
+    if (home.isEmpty()) {
+        home = QDir::homePath();
+    }
+    const QByteArray digest = QCryptographicHash::hash(home.toUtf8(), QCryptographicHash::Sha1).toHex();
+    return QStringLiteral("/%1-%2.lock").arg(QCoreApplication::applicationName(), QString::fromLatin1(digest));
+}
+
+// Opens the lock file, which is made where it is missing. Anything else in its place (a folder, a link, a FIFO) is
+// removed: the folder is this user's alone. -1 where that can't be done.
+int OpenLockFile(const QByteArray& path) {
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        // Reading is enough for a lock, and a file that another user made may allow no more.
+        const int descriptor = open(path.constData(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0644);
+        struct stat info = {};
+        if (descriptor >= 0 && fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode)) {
+            return descriptor;
+        }
+        if (descriptor >= 0) {
+            close(descriptor);
+        }
+        std::remove(path.constData());
+    }
+    return -1;
 }
 
 // Qt warns of what it finds odd about the machine: no XDG_RUNTIME_DIR, a character set that is not UTF-8. That is none
@@ -52,45 +84,38 @@ int& Prepare(int& argc) {
     return argc;
 }
 
-// Takes a lock file over that QLockFile leaves alone although nobody holds it: one that its maker did not live to write
-// its process id into, or whose process id now belongs to another process of the same name, perhaps to this one. Who
-// holds the file has it locked with flock(2) as well, from before it says who he is; a file that says nothing may
-// therefore be one that is just being made. Returns whether the lock is ours now.
-bool TakeOver(QLockFile& lock) {
-    constexpr unsigned long kMakingMilliseconds = 100;
-    qint64 process = 0;
-    QString host;
-    QString application;
-    if (!lock.getLockInfo(&process, &host, &application)) {
-        QThread::msleep(kMakingMilliseconds);
-    }
-    return lock.removeStaleLockFile() && lock.tryLock(0);
-}
-
 }  // namespace
 
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui) : QApplication(Prepare(argc), argv) {
     Q_UNUSED(gui)
 }
 
-QtSingleApplication::~QtSingleApplication() = default;
-
-QString QtSingleApplication::LockPath() {
-    QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
-    if (home.isEmpty()) {
-        home = QDir::homePath();
+QtSingleApplication::~QtSingleApplication() {
+    if (lock_ >= 0) {
+        close(lock_);
     }
-    const QByteArray digest = QCryptographicHash::hash(home.toUtf8(), QCryptographicHash::Sha1).toHex();
-    return RuntimeFolder() +
-           QStringLiteral("/%1-%2.lock").arg(QCoreApplication::applicationName(), QString::fromLatin1(digest));
 }
 
 bool QtSingleApplication::isRunning() {
-    if (!decided_) {
-        lock_ = std::make_unique<QLockFile>(LockPath());
-        lock_->setStaleLockTime(0);
-        running_ = !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError && !TakeOver(*lock_);
-        decided_ = true;
+    if (decided_) {
+        return running_;
+    }
+    decided_ = true;
+    const QString name = LockName();
+    for (const QString& folder : RuntimeFolders()) {
+        const int descriptor = OpenLockFile(QFile::encodeName(folder + name));
+        if (descriptor < 0) {
+            continue;
+        }
+        if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+            lock_ = descriptor;
+            break;
+        }
+        running_ = errno == EWOULDBLOCK;
+        close(descriptor);
+        if (running_) {
+            break;
+        }
     }
     return running_;
 }

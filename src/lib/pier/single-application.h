@@ -2,17 +2,14 @@
 #pragma once
 
 #include <QApplication>
-#include <QLockFile>
-
-#include <memory>
 
 // A QApplication that can tell whether another process of the same application already runs for the same home folder.
 //
-// The first process holds a lock file in the user's runtime folder for as long as this object lives. A process that was
-// killed leaves the file behind, but its lock is void with its end: the next process takes it over at once, or after a
-// tenth of a second if the first was killed before it had written its name. The lock never times
-// out: work may take as long as it wants. Where no lock file can be made at all, no other process counts as running: a
-// user is never kept from the client by a missing folder. Main thread only.
+// The first process holds a lock on a file in the user's runtime folder for as long as this object lives. The system
+// itself drops the lock with the end of the process, however it ends, and nothing needs to be written: a killed process
+// never blocks the next one, a full disk keeps nobody from locking, and the lock never times out. The file stays. Child
+// processes don't get it. Where no such file can be made at all, no other process counts as running: a user is never
+// kept from the client by that. Main thread only. Source: flock(2).
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 
@@ -25,11 +22,8 @@ public:
     // Whether another process has the lock. Valid before the event loop starts; the first call decides.
     bool isRunning();
 
-    // The path of the lock file: named after the executable and the home folder, so that two homes do not meet.
-    static QString LockPath();
-
 private:
-    std::unique_ptr<QLockFile> lock_;
+    int lock_ = -1;  // the locked file
     bool decided_ = false;
     bool running_ = false;
 };

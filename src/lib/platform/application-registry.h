@@ -10,7 +10,7 @@ namespace platform {
 //
 // macOS: `lsregister -u FOLDER`, with QProcess::execute; the status is the tool's, negative if it did not run.
 // Linux: the user's desktop entries whose Exec or TryExec lies in that folder are deleted, and the desktop database is
-// refreshed if there was one to delete and the system has a tool for it.
+// refreshed if there was one to delete and the system has a tool for it, which gets ten seconds.
 int ForgetApplication(const QString& folder);
 
 // Starts the application in `folder` as a new process that is independent of this one. `executable` is the path of its
@@ -18,7 +18,8 @@ int ForgetApplication(const QString& folder);
 //
 // macOS: `open -n -a FOLDER`, detached; the bundle's own Info.plist names the binary.
 // Linux: the executable itself, detached, in a session of its own, in the folder of the executable, with its standard
-// streams on the null device. Descriptors of this process reach it only where they lack close-on-exec.
+// streams on the null device, no signal blocked and none ignored. Descriptors of this process reach it only where they
+// lack close-on-exec. It is a child of this process until that ends. Source: posix_spawn(3).
 bool StartApplication(const QString& folder, const QString& executable);
 
 }  // namespace platform

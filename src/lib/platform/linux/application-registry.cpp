@@ -1,15 +1,23 @@
 #include "application-registry.h"
 
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStringList>
+#include <csignal>
 
 #include "desktop-entry.h"
 
 namespace platform {
 namespace {
+
+// A user waits for the client, not for a cache.
+constexpr int kRefreshMilliseconds = 10000;
 
 // The folder of the user's own desktop entries. Source: the XDG Base Directory and Desktop Menu standards of
 // freedesktop.org.
@@ -26,7 +34,11 @@ int RefreshDatabase(const QString& folder) {
     tool.setStandardOutputFile(QProcess::nullDevice());
     tool.setStandardErrorFile(QProcess::nullDevice());
     tool.start(QStringLiteral("update-desktop-database"), QStringList{folder});
-    tool.waitForFinished(-1);
+    if (!tool.waitForFinished(kRefreshMilliseconds) && tool.state() != QProcess::NotRunning) {
+        tool.kill();
+        tool.waitForFinished(-1);
+        return -2;
+    }
     if (tool.error() == QProcess::FailedToStart) {
         return 0;
     }
@@ -59,14 +71,39 @@ int ForgetApplication(const QString& folder) {
 }
 
 bool StartApplication(const QString& /*folder*/, const QString& executable) {
-    QProcess application;
-    application.setProgram(executable);
-    application.setWorkingDirectory(QFileInfo(executable).path());
-    application.setStandardInputFile(QProcess::nullDevice());
-    application.setStandardOutputFile(QProcess::nullDevice());
-    application.setStandardErrorFile(QProcess::nullDevice());
-    // QProcess puts a detached process into a session of its own.
-    return application.startDetached();
+    const QByteArray path = QFile::encodeName(QFileInfo(executable).absoluteFilePath());
+    const QByteArray folder = QFile::encodeName(QFileInfo(executable).absolutePath());
+
+    // Not QProcess: an application that it starts ignores SIGPIPE, and whatever signals this process was told to ignore
+    // or to block. A client that is deaf to SIGTERM for that could only be killed.
+    posix_spawnattr_t attributes;
+    posix_spawn_file_actions_t actions;
+    if (posix_spawnattr_init(&attributes) != 0) {
+        return false;
+    }
+    if (posix_spawn_file_actions_init(&actions) != 0) {
+        posix_spawnattr_destroy(&attributes);
+        return false;
+    }
+    sigset_t all;
+    sigset_t none;
+    sigfillset(&all);
+    sigemptyset(&none);
+    posix_spawnattr_setsigdefault(&attributes, &all);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSID);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addchdir_np(&actions, folder.constData());
+
+    QByteArray name = path;
+    char* const arguments[] = {name.data(), nullptr};
+    pid_t process = -1;
+    const int error = posix_spawn(&process, path.constData(), &actions, &attributes, arguments, environ);
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
+    return error == 0;
 }
 
 }  // namespace platform

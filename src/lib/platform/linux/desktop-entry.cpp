@@ -27,6 +27,9 @@ QString UnescapeString(const QString& value) {
     return text;
 }
 
+// Far more than any entry has: a file of other content is not read into memory as one line.
+constexpr qint64 kLongestLine = 65536;
+
 bool LiesIn(const QString& program, const QString& folder) {
     return QDir::cleanPath(program).startsWith(folder + QLatin1Char('/'));
 }
@@ -56,7 +59,7 @@ bool DesktopEntryRunsFrom(const QString& file, const QString& folder) {
     bool isMain = false;
     // Lines are read by hand: QSettings would take a ";" or a "," in a value for syntax of its own.
     while (!entry.atEnd()) {
-        const QString line = QString::fromUtf8(entry.readLine()).trimmed();
+        const QString line = QString::fromUtf8(entry.readLine(kLongestLine)).trimmed();
         if (line.startsWith(QLatin1Char('['))) {
             // Other groups, such as those of an application's further actions, don't say whose entry it is.
             isMain = line == QLatin1String("[Desktop Entry]");

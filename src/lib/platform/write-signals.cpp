@@ -1,0 +1,12 @@
+#include "write-signals.h"
+
+#include <csignal>
+
+namespace platform {
+
+void IgnoreWriteSignals() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+}  // namespace platform

@@ -4,39 +4,51 @@
 #include <archive_entry.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstring>
 
 #include "format.h"
+#include "output-file.h"
 
 void ArchiveWriter::Free::operator()(archive* handle) const {
     archive_write_free(handle);
 }
 
 ArchiveWriter::~ArchiveWriter() {
-    if (handle_) {
-        // Nothing more is to be written when the caller gives up.
-        archive_write_fail(handle_.get());
+    // Nothing more is to be written when the caller gives up.
+    isDiscarding_ = true;
+}
+
+// libarchive's way to the file. It is never told of a failure, since it does not free all that it holds after one:
+// what comes behind is thrown away, and Check() tells.
+la_ssize_t ArchiveWriter::WriteBlock(archive* /*handle*/, void* self, const void* block, std::size_t size) {
+    auto* writer = static_cast<ArchiveWriter*>(self);
+    if (!writer->isDiscarding_ && !WriteAll(writer->descriptor_, static_cast<const char*>(block), size)) {
+        writer->error_ = std::strerror(errno);
+        writer->isDiscarding_ = true;
     }
+    return static_cast<la_ssize_t>(size);
 }
 
 bool ArchiveWriter::Check(int result) {
+    if (isDiscarding_) {
+        return false;
+    }
     if (result == ARCHIVE_OK) {
         return true;
     }
     const char* text = archive_error_string(handle_.get());
     error_ = text == nullptr ? "the archive library failed" : text;
-    if (const int number = archive_errno(handle_.get()); number > 0) {
-        error_ += std::string(": ") + std::strerror(number);
-    }
     return false;
 }
 
 bool ArchiveWriter::Open(int descriptor, const std::string& format) {
+    descriptor_ = descriptor;
     handle_.reset(archive_write_new());
     error_ = SetFormat(handle_.get(), format);
     // The last block is as long as it is: no padding to a tape's block.
     return error_.empty() && Check(archive_write_set_bytes_in_last_block(handle_.get(), 1)) &&
-           Check(archive_write_open_fd(handle_.get(), descriptor));
+           Check(archive_write_open(handle_.get(), this, nullptr, WriteBlock, nullptr));
 }
 
 bool ArchiveWriter::AddHeader(const std::string& path, unsigned type, unsigned mode, std::int64_t size,
@@ -76,7 +88,7 @@ bool ArchiveWriter::AddData(const char* bytes, std::size_t size) {
         error_ = "the archive library took only a part of the data";
         return false;
     }
-    return true;
+    return Check(ARCHIVE_OK);
 }
 
 bool ArchiveWriter::Close() {

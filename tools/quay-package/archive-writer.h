@@ -1,6 +1,9 @@
 // A package, written entry by entry.
 #pragma once
 
+#include <sys/types.h>
+
+#include <cstddef>
 #include <cstdint>
 #include <ctime>
 #include <memory>
@@ -19,6 +22,7 @@ public:
     ArchiveWriter& operator=(const ArchiveWriter&) = delete;
 
     // Starts an archive of the format on a descriptor, which stays the caller's and must live until Close().
+    // What is written after a failure goes nowhere.
     bool Open(int descriptor, const std::string& format);
 
     bool AddFolder(const std::string& path);
@@ -34,13 +38,16 @@ public:
     const std::string& error() const { return error_; }
 
 private:
+    static ssize_t WriteBlock(archive* handle, void* self, const void* block, std::size_t size);
     bool Check(int result);
     bool AddHeader(const std::string& path, unsigned type, unsigned mode, std::int64_t size, const char* target);
 
     struct Free {
         void operator()(archive* handle) const;
     };
-    std::unique_ptr<archive, Free> handle_;
     const std::time_t time_;
+    int descriptor_ = -1;
+    bool isDiscarding_ = false;
     std::string error_;
+    std::unique_ptr<archive, Free> handle_;  // last: it writes into the others while it goes
 };

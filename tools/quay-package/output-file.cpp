@@ -21,6 +21,8 @@ std::string HiddenPattern(const std::string& path) {
     return folder + "." + FSBaseName(path) + ".XXXXXX";
 }
 
+}  // namespace
+
 bool WriteAll(int descriptor, const char* bytes, std::size_t size) {
     while (size > 0) {
         const ssize_t written = write(descriptor, bytes, size);
@@ -35,8 +37,6 @@ bool WriteAll(int descriptor, const char* bytes, std::size_t size) {
     }
     return true;
 }
-
-}  // namespace
 
 mode_t Umask() {
     const mode_t mask = umask(0);

@@ -47,6 +47,9 @@ std::string CopyWholeFile(const std::string& from, const std::string& to, unsign
 // A file's bytes, up to `limit`. False with errno set.
 bool ReadWholeFile(const std::string& path, std::size_t limit, std::string& bytes);
 
+// Writes all the bytes, in as many portions as it takes. False with errno set. Source: write(2).
+bool WriteAll(int descriptor, const char* bytes, std::size_t size);
+
 // The umask. It is set for a moment, which is safe in a program of one thread. Source: umask(2).
 mode_t Umask();
 

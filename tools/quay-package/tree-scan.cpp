@@ -71,9 +71,10 @@ bool TreeScan::WalkFolder(const std::string& folder, const Visitor& visit, const
     if (visitFolder) {
         visitFolder(folder, names);
     }
+    const std::string prefix = folder.empty() ? "" : folder + "/";
     for (const std::string& name : names) {
         TreeEntry entry;
-        entry.path = folder.empty() ? name : folder + "/" + name;
+        entry.path = prefix + name;
         if (!Describe(entry)) {
             return false;
         }

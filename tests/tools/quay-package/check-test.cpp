@@ -50,6 +50,11 @@ struct Seed {
     std::function<void(Draft& draft)> sow;
 };
 
+// So that a failure, and the list of tests, names the code.
+void PrintTo(const Seed& seed, std::ostream* out) {
+    *out << seed.code;
+}
+
 void ReplaceAll(std::string& bytes, const std::string& from, const std::string& to) {
     ASSERT_EQ(from.size(), to.size());
     ASSERT_NE(bytes.find(from), std::string::npos);

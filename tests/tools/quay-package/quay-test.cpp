@@ -7,7 +7,7 @@
 namespace fs = std::filesystem;
 
 Outcome QuayTest::Run(const std::vector<std::string>& arguments) const {
-    std::vector<std::string> all = {KQ_PACKAGE_TOOL};
+    std::vector<std::string> all = {tool_};
     all.insert(all.end(), arguments.begin(), arguments.end());
     return RunProcess(all, environment_);
 }

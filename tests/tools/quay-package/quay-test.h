@@ -30,4 +30,6 @@ protected:
 
     // The names in a folder.
     static std::set<std::string> Names(const std::string& folder);
+
+    std::string tool_ = KQ_PACKAGE_TOOL;
 };

@@ -56,7 +56,7 @@ class DialogProbePlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "dialog-probe.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override { return new DialogProbe; }
+    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override { return new DialogProbe; }
 };
 
 #include "dialog-probe.moc"

@@ -222,6 +222,9 @@ TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
 }
 
 TEST_F(ProcessTest, WithoutAThreadTheWorkIsDoneAllTheSame) {
+#if defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the thread sanitizer makes threads of its own: which call is the launcher's can't be told";
+#endif
     InstallClient(1000);
     LayBundle(2000);
     environment_["ASAN_OPTIONS"] = "detect_leaks=0";  // which a traced process can't do

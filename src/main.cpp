@@ -56,7 +56,7 @@ void StartLog() {
 // Installs the catalog of the user's language, if there is one, and returns the language's code.
 QString InstallTranslation() {
     auto translator = std::make_unique<QTranslator>();
-    const QString language = KelvaneLocale::getInstance()->getDefaultLanguage();
+    QString language = KelvaneLocale::getInstance()->getDefaultLanguage();
     // An empty translator says as much as the result would. The two delimiters are empty: nothing of the name is
     // optional.
     static_cast<void>(translator->load(QStringLiteral(":/") + language + ".qm", QString::fromLatin1(""),

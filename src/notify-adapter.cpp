@@ -1,5 +1,7 @@
 #include "notify-adapter.h"
 
+#include <utility>
+
 Notify_Adapter* Notify_Adapter::GetInstance() {
     static Notify_Adapter instance;
     return &instance;
@@ -9,7 +11,7 @@ void Notify_Adapter::UpdateProgress(int total, int current) {
     Q_EMIT sigUpdateProgress(total, current);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the text is copied for the queue in any case.
+// By value: that is how the text waits in the listener's queue.
 void Notify_Adapter::UpdateDialogText(QString text) {
-    Q_EMIT sigUpdateDialogText(text);
+    Q_EMIT sigUpdateDialogText(std::move(text));
 }

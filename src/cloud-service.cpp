@@ -2,53 +2,33 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSettings>
-#include <cstdio>
+#include <optional>
 
 #include "extractor.h"
 #include "file-op.h"
 #include "log-statement.h"
 #include "path-table.h"
+#include "version-info.h"
 
 namespace {
 
 constexpr char kComponent[] = "service_debug";
 
-// Backup names are tried from index 0 to this one.
-constexpr int kLastBackupIndex = 9;
-
-// The name beside the application folder under which an old copy is kept: index 0 has no digit.
+// The name under which the old copy is kept.
 std::string GetAppBackupDir(const std::string& path, int index) {
-    std::string name = path + "_tmp";
-    if (index == 0) {
-        return name;
-    }
-    char postfix[8];  // more than the digits of any index in use
-    if (std::snprintf(postfix, sizeof(postfix), "%d", index) < 0) {
+    std::string name;
+    if (!BackupName(path, index, name)) {
         // No newline of its own: the log's readers know the line so.
         LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
-        postfix[0] = '\0';
     }
-    return name + postfix;
+    return name;
 }
 
-// Sets `field` if the open group has the key. The text ends at its first zero byte.
-void LoadKey(const QSettings& info, const char* key, std::string& field) {
-    const QString name = QString::fromLatin1(key);
-    if (info.contains(name)) {
-        field = info.value(name).toString().toUtf8().constData();
+// Sets a version field if the file has its key; one that it lacks leaves the field as it was.
+void Take(const std::optional<std::string>& value, std::string& field) {
+    if (value) {
+        field = *value;
     }
-}
-
-// Loads the four keys of an INFO file into the four fields.
-void LoadVersion(const std::string& path, std::string& majorVersion, std::string& minorVersion,
-                 std::string& buildVersion, std::string& iconOverlayVersion) {
-    QSettings info(QString::fromStdString(path), QSettings::IniFormat);
-    info.beginGroup(QStringLiteral("Version"));
-    LoadKey(info, "major_version", majorVersion);
-    LoadKey(info, "minor_version", minorVersion);
-    LoadKey(info, "build_version", buildVersion);
-    LoadKey(info, "icon_overlay_version", iconOverlayVersion);
 }
 
 // Moves the old copy to the first backup name that takes it. `attempt` is then the name's index. 0 or -1.
@@ -80,7 +60,7 @@ void RollBack(const std::string& appDir, const std::string& backupPath) {
 
 }  // namespace
 
-Service::Service() : timeout(10000), appPath(TablePath("user_kelvane_quay_app_path").toStdString()) {
+Service::Service() : timeout(10000), appPath(TablePath(kUserKelvaneQuayAppPath).toStdString()) {
 }
 
 Service::~Service() = default;
@@ -94,20 +74,28 @@ QString Service::GetUserInstallPath() {
 }
 
 void Service::LoadSourceVersion() {
-    const std::string path = (TablePath("user_kelvane_quay_resource_path") + "/INFO").toStdString();
+    const std::string path = (TablePath(kUserKelvaneQuayResourcePath) + InResources(kInfoFile)).toStdString();
     if (!IsFileExist(path, false)) {
         LOG_INFO(kComponent, "source does not exist\n");
         return;
     }
-    LoadVersion(path, sourceMajorVersion, sourceMinorVersion, sourceBuildVersion, sourceIconOverlayVersion);
+    const VersionInfo info = ReadVersionInfo(path);
+    Take(info.majorVersion, sourceMajorVersion);
+    Take(info.minorVersion, sourceMinorVersion);
+    Take(info.buildVersion, sourceBuildVersion);
+    Take(info.iconOverlayVersion, sourceIconOverlayVersion);
     LOG_INFO(kComponent, "source_version = (%s, %s, %s, %s)\n", sourceMajorVersion.c_str(), sourceMinorVersion.c_str(),
              sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
 }
 
 void Service::LoadTargetVersion() {
     // Deliberately without a test for the file: a bundle without INFO has four empty versions, and its line says so.
-    const std::string path = (TablePath("root_resource_path") + "/INFO").toStdString();
-    LoadVersion(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
+    const std::string path = (TablePath(kRootResourcePath) + InResources(kInfoFile)).toStdString();
+    const VersionInfo info = ReadVersionInfo(path);
+    Take(info.majorVersion, targetMajorVersion);
+    Take(info.minorVersion, targetMinorVersion);
+    Take(info.buildVersion, targetBuildVersion);
+    Take(info.iconOverlayVersion, targetIconOverlayVersion);
     LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(), targetMinorVersion.c_str(),
              targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
 }
@@ -132,8 +120,8 @@ int Service::PrepareUserEnv() {
 }
 
 int Service::ExtractPackage() {
-    const std::string package = (TablePath("root_resource_path") + "/package/tessaly.kpk").toStdString();
-    const std::string target = TablePath("user_kelvane_quay_app_path").toStdString();
+    const std::string package = (TablePath(kRootResourcePath) + InResources(kPackageFile)).toStdString();
+    const std::string target = TablePath(kUserKelvaneQuayAppPath).toStdString();
     if (FSMKDir(target, true) < 0) {
         LOG_ERROR(kComponent, "failed to create folder: '%s'\n", target.c_str());
         return -1;
@@ -146,14 +134,14 @@ int Service::ExtractPackage() {
 }
 
 void Service::MigrateService() {
-    const QString oldRoot = QDir::toNativeSeparators(TablePath("user_tessaly_path"));
-    const QString newRoot = QDir::toNativeSeparators(TablePath("user_kelvane_quay_path"));
+    const QString oldRoot = QDir::toNativeSeparators(TablePath(kUserTessalyPath));
+    const QString newRoot = QDir::toNativeSeparators(TablePath(kUserKelvaneQuayPath));
     if (!IsFileExist(newRoot.toStdString(), true) && FSMKDir(newRoot.toStdString(), true) < 0) {
         LOG_ERROR(kComponent, "Failed to create Kelvane Quay folder\n");
         return;
     }
-    const std::string oldData = QDir::toNativeSeparators(oldRoot + "/data").toStdString();
-    const std::string newData = QDir::toNativeSeparators(newRoot + "/data").toStdString();
+    const std::string oldData = QDir::toNativeSeparators(oldRoot + "/" + kDataFolder).toStdString();
+    const std::string newData = QDir::toNativeSeparators(newRoot + "/" + kDataFolder).toStdString();
     if (IsFileExist(oldData, true) && FSRename(oldData, newData, true) < 0) {
         LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
     }
@@ -164,7 +152,7 @@ void Service::MigrateService() {
 }
 
 void Service::RemoveAgedFolders() {
-    const std::string agedApp = (TablePath("user_tessaly_path") + "/app").toStdString();
+    const std::string agedApp = (TablePath(kUserTessalyPath) + "/" + kAgedFolder).toStdString();
     LOG_INFO(kComponent, "removing aged app folder %s\n", agedApp.c_str());
     FSRemove(agedApp, false);
 }
@@ -217,7 +205,7 @@ PackageInfo::PackageInfo() {
     const QString application = QCoreApplication::applicationDirPath();
     imagesPath = (application + "/images").toUtf8().constData();
     logPath = (QDir::homePath() + "/.KelvaneQuay_log").toUtf8().constData();
-    debugConfPath = (application + "/log/launcher.debug").toUtf8().constData();
-    packagePath = (application + "/package/tessaly.kpk").toUtf8().constData();
+    debugConfPath = (application + InResources(kLevelFile)).toUtf8().constData();
+    packagePath = (application + InResources(kPackageFile)).toUtf8().constData();
     confPath = (application + "/conf").toUtf8().constData();
 }

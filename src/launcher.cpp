@@ -25,7 +25,7 @@ constexpr double kDialogHeight = 80.0;
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font = QApplication::font();
-    const QString icon = TablePath("root_resource_path") + "/images/ico_72_tessaly.png";
+    const QString icon = TablePath(kRootResourcePath) + InResources(kIconFile);
     setWindowTitle(StrTable::LoadStr(StrTable::kRowAppName));
     setWindowIcon(QIcon(icon));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);

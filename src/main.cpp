@@ -25,30 +25,24 @@ constexpr char kComponent[] = "launcher_debug";
 // Generations of the log file that are kept.
 constexpr int kLogRotateCount = 50;
 
-// Logs one path. The text is handed to "%s" as a wide one, deliberately: the line has always shown the first character
-// alone, or nothing for a key that is not set, and says no more than that about a user's folders.
-#define LOG_PATH(key) \
-    LOG_INFO(kComponent, ">>> " key " = %s\n", reinterpret_cast<const char*>(TablePath(key).toStdWString().c_str()))
-
-// Four of the keys are never set; what an unset key yields is what is logged.
+// Logs some paths. Their texts are handed to "%s" as wide ones, deliberately: the lines have always shown the first
+// character alone, or nothing for a key that is not set, and say no more than that about a user's folders.
 void LogPaths() {
-    LOG_PATH("user_tessaly_path");
-    LOG_PATH("user_tessaly_app_path");
-    LOG_PATH("user_tessaly_resource_path");
-    LOG_PATH("user_tessaly_data_path");
-    LOG_PATH("user_tessaly_working_dir_path");
-    LOG_PATH("user_tessaly_quay_ui_path");
-    LOG_PATH("root_resource_path");
+    for (const PathKey key : {kUserTessalyPath, kUserTessalyAppPath, kUserTessalyResourcePath, kUserTessalyDataPath,
+                              kUserTessalyWorkingDirPath, kUserTessalyQuayUiPath, kRootResourcePath}) {
+        const std::wstring path = TablePath(key).toStdWString();
+        LOG_INFO(kComponent, ">>> %s = %s\n", key.name, reinterpret_cast<const char*>(path.c_str()));
+    }
 }
 
 // Sets the log up. Without a folder for it the run goes on: warnings and errors then go to standard error.
 void StartLog() {
-    const std::string levels = (TablePath("root_resource_path") + "/log/launcher.debug").toStdString();
-    const QString folder = TablePath("user_kelvane_quay_path") + "/log";
+    const std::string levels = (TablePath(kRootResourcePath) + InResources(kLevelFile)).toStdString();
+    const QString folder = TablePath(kUserKelvaneQuayPath) + "/" + kLogFolder;
     if (!QDir(QString()).mkpath(folder)) {
         return;
     }
-    Logger::Initialize(Logger::TYPE_FILE, (folder + "/launcher.log").toStdString(), levels, kLogRotateCount,
+    Logger::Initialize(Logger::TYPE_FILE, (folder + "/" + kLogName).toStdString(), levels, kLogRotateCount,
                        Logger::SCOPE_THREAD);
     LogPaths();
 }

@@ -5,27 +5,28 @@
 #include "path-manager.h"
 
 void FillPathTable(const QString& home, const QString& applicationFolder) {
+    const QString user = home + "/" + kPrivateFolder;
+    const QString application = user + "/" + kApplicationFolder + "/";
+    const QString older = home + "/" + kOlderFolder;
     const struct {
-        const char* key;
-        const QString& base;
-        const char* below;
+        PathKey key;
+        QString path;
     } paths[] = {
-        {"user_kelvane_quay_path", home, "/.KelvaneQuay"},
-        {"user_kelvane_quay_app_path", home, "/.KelvaneQuay/KelvaneQuay.app"},
-        {"user_kelvane_quay_resource_path", home, "/.KelvaneQuay/KelvaneQuay.app/Contents/Resources"},
-        {"user_kelvane_quay_data_path", home, "/.KelvaneQuay/data"},
-        {"user_kelvane_quay_working_dir_path", home, "/.KelvaneQuay/KelvaneQuay.app/Contents/MacOS"},
-        {"user_kelvane_quay_ui_path", home, "/.KelvaneQuay/KelvaneQuay.app/Contents/MacOS/cloud-quay-ui"},
-        {"user_tessaly_path", home, "/.Tessaly"},
-        {"user_tessaly_resource_path", home, "/.Tessaly/Tessaly.app/Contents/Resources"},
-        {"root_resource_path", applicationFolder, "/../Resources"},
+        {kUserKelvaneQuayPath, user},
+        {kUserKelvaneQuayAppPath, application},
+        {kUserKelvaneQuayResourcePath, application + kResourcesFolder},
+        {kUserKelvaneQuayDataPath, user + "/" + kDataFolder},
+        {kUserKelvaneQuayWorkingDirPath, application + kBinariesFolder},
+        {kUserKelvaneQuayUiPath, application + kClientFile},
+        {kUserTessalyPath, older},
+        {kUserTessalyResourcePath, older + "/" + kOlderApplicationFolder + "/" + kResourcesFolder},
+        {kRootResourcePath, applicationFolder + "/../" + LastName(kResourcesFolder)},
     };
     for (const auto& entry : paths) {
-        UIPathManager::getInstance()->setPath(QString::fromLatin1(entry.key),
-                                              QDir::cleanPath(entry.base + entry.below));
+        UIPathManager::getInstance()->setPath(QString::fromLatin1(entry.key.name), QDir::cleanPath(entry.path));
     }
 }
 
-QString TablePath(const char* key) {
-    return UIPathManager::getInstance()->getPath(QString::fromLatin1(key));
+QString TablePath(PathKey key) {
+    return UIPathManager::getInstance()->getPath(QString::fromLatin1(key.name));
 }

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "product-layout.h"
+
 // lhs followed by rhs, which is UTF-8.
 inline QString operator+(const QString& lhs, const char* rhs) {
     return QString(lhs).append(QString::fromUtf8(rhs));
@@ -13,5 +15,5 @@ inline QString operator+(const QString& lhs, const char* rhs) {
 // Main thread, before any other.
 void FillPathTable(const QString& home, const QString& applicationFolder);
 
-// A path of the table by its key, which is ASCII.
-QString TablePath(const char* key);
+// A path of the table.
+QString TablePath(PathKey key);

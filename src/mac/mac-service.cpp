@@ -13,6 +13,7 @@
 #include "file-op.h"
 #include "log-statement.h"
 #include "path-table.h"
+#include "version-info.h"
 
 namespace {
 
@@ -21,11 +22,6 @@ constexpr char kComponent[] = "service_debug";
 // How long a client may take to quit: so many probes, a second apart. Service's own time limit plays no part in it.
 constexpr int kStopProbes = 15;
 constexpr unsigned kStopProbeSeconds = 1;
-
-// A build number counts by its leading digits; an empty or missing one is 0.
-int BuildNumber(const std::string& version) {
-    return version.empty() ? 0 : std::atoi(version.c_str());
-}
 
 bool IsGone(pid_t process) {
     return kill(process, 0) != 0 && errno == ESRCH;
@@ -93,7 +89,7 @@ int MacService::HandlePackageUpgrade() {
     } else {
         // A first install, perhaps from the older product. The exact spelling is asked for: a folder that is reached
         // through a link, or that only looks alike on a volume that ignores case, is not taken over.
-        const QString older = QDir::toNativeSeparators(TablePath("user_tessaly_path"));
+        const QString older = QDir::toNativeSeparators(TablePath(kUserTessalyPath));
         if (IsFileExist(older.toStdString(), true)) {
             StopServiceByPath(older);
             MigrateService();
@@ -110,25 +106,25 @@ void MacService::PostUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    const std::string binary = TablePath("user_kelvane_quay_ui_path").toStdString();
+    const std::string binary = TablePath(kUserKelvaneQuayUiPath).toStdString();
     return access(binary.c_str(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {
-    const QString application = TablePath("user_kelvane_quay_app_path");
+    const QString application = TablePath(kUserKelvaneQuayAppPath);
     if (platform::ForgetApplication(application) != 0) {
         // No newline of its own: the log's readers know the line so.
         LOG_ERROR(kComponent, "Cannot unregister bundle, %s", application.toUtf8().constData());
     }
-    return platform::StartApplication(application, TablePath("user_kelvane_quay_ui_path")) ? 0 : -1;
+    return platform::StartApplication(application, TablePath(kUserKelvaneQuayUiPath)) ? 0 : -1;
 }
 
 void MacService::StopService() {
-    StopServiceByPath(TablePath("user_kelvane_quay_path"));
+    StopServiceByPath(TablePath(kUserKelvaneQuayPath));
 }
 
 void MacService::StopServiceByPath(const QString& folder) {
-    const std::string file = (folder + "/ui.pid").toStdString();
+    const std::string file = (folder + "/" + kPidFile).toStdString();
     if (!IsFileExist(file, false)) {
         LOG_DEBUG(kComponent, "pid file '%s' does not exist, no need to terminate\n", file.c_str());
         return;

@@ -6,7 +6,6 @@
 #include <cstdio>
 
 #include "archive-reader.h"
-#include "bundle-layout.h"
 #include "command.h"
 #include "config.h"
 #include "content-check.h"
@@ -14,6 +13,7 @@
 #include "interruption.h"
 #include "names.h"
 #include "output-file.h"
+#include "product-layout.h"
 #include "report.h"
 #include "version-probe.h"
 
@@ -118,7 +118,7 @@ std::string Laying::Run(const std::string& info) {
     std::string error = Copy(options_.launcher, kLauncherFile, 0755);
     const auto then = [&error](const std::string& next) { error = error.empty() ? next : error; };
     then(Copy(options_.package, kPackageFile, 0644));
-    then(Write(kBundleInfoFile, info));
+    then(Write(kInfoFile, info));
     versions_ = ReadVersions(folder_ + "/Contents");
     then(options_.icon.empty() ? Write(kIconFile, OwnFile("ico_72_tessaly.png"))
                                : Copy(options_.icon, kIconFile, 0644));

@@ -4,13 +4,13 @@
 #include <sstream>
 
 #include "archive-check.h"
-#include "bundle-layout.h"
 #include "command.h"
 #include "config.h"
 #include "content-check.h"
 #include "file-op.h"
 #include "interruption.h"
 #include "output-file.h"
+#include "product-layout.h"
 #include "progress.h"
 #include "rehearsal.h"
 #include "report.h"
@@ -55,7 +55,7 @@ void CheckBundlePropertyList(const std::string& bundle, Findings& findings) {
         findings.Add(Code::BundlePropertyListMissing, kPropertyListFile);
     } else if (!PropertyListValue(bytes, "CFBundleExecutable", name)) {
         findings.Add(Code::BundlePropertyListWrong, kPropertyListFile, "it has no CFBundleExecutable");
-    } else if (name != kLauncherName) {
+    } else if (name != LastName(kLauncherFile)) {
         findings.Add(Code::BundlePropertyListWrong, kPropertyListFile, "it names \"" + Printable(name) + "\"");
     }
 }
@@ -115,12 +115,12 @@ void CheckBundle(const std::string& bundle, Outcome& outcome) {
     } else if ((info.st_mode & S_IXUSR) == 0) {
         findings.Add(Code::BundleLauncherNotExecutable, kLauncherFile);
     }
-    if (!IsFile(bundle + "/" + kBundleInfoFile, info)) {
-        findings.Add(Code::BundleInfoMissing, kBundleInfoFile);
+    if (!IsFile(bundle + "/" + kInfoFile, info)) {
+        findings.Add(Code::BundleInfoMissing, kInfoFile);
     } else {
         outcome.bundle = ReadVersions(bundle + "/Contents");
         if (!IsBuildNumber(outcome.bundle.build)) {
-            findings.Add(Code::BundleBuildNoNumber, kBundleInfoFile, "\"" + Printable(outcome.bundle.build) + "\"");
+            findings.Add(Code::BundleBuildNoNumber, kInfoFile, "\"" + Printable(outcome.bundle.build) + "\"");
         }
     }
     if (!IsFile(bundle + "/" + kPackageFile, info)) {
@@ -160,11 +160,11 @@ void CheckInfo(const Options& options, const std::string& info, const Scratch& s
     }
     if (bundle.build != package.build) {
         findings.Add(
-            Code::BundleBuildDiffers, kBundleInfoFile,
+            Code::BundleBuildDiffers, kInfoFile,
             "the bundle's is \"" + Printable(bundle.build) + "\", the package's \"" + Printable(package.build) + "\"");
     } else if (bundle.majorVersion != package.majorVersion || bundle.minorVersion != package.minorVersion ||
                bundle.iconOverlay != package.iconOverlay) {
-        findings.Add(Code::BundleVersionDiffers, kBundleInfoFile);
+        findings.Add(Code::BundleVersionDiffers, kInfoFile);
     }
 }
 

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "archive-reader.h"
-#include "bundle-layout.h"
 #include "cloud-service.h"
 #include "command.h"
 #include "config.h"
@@ -33,15 +32,7 @@ constexpr std::size_t kLargestText = 1 << 20;
 // What a client's folder has on disk beside its files' content: a block for each entry.
 constexpr std::int64_t kBlock = 4096;
 
-// The backup names, as the install takes them in turn. The install keeps its own to itself; explain-test.cpp compares
-// what is said here with what a start does.
-constexpr int kLastBackupIndex = 9;
-
-std::string BackupName(const std::string& folder, int index) {
-    return folder + "_tmp" + (index == 0 ? "" : std::to_string(index));
-}
-
-std::string Path(const char* key) {
+std::string Path(PathKey key) {
     return QDir::toNativeSeparators(TablePath(key)).toStdString();
 }
 
@@ -130,7 +121,7 @@ void Explanation::Run() {
 }
 
 void Explanation::ExplainHome() {
-    const std::string info = Path("user_kelvane_quay_resource_path") + "/INFO";
+    const std::string info = Path(kUserKelvaneQuayResourcePath) + "/INFO";
     const std::string text = Exists(info) ? VersionsText(decision_.source) : "no version installed";
     Say("installed", ToJson(decision_.source),
         "home       " + home_ + ": " + text + (decision_.installed ? "" : ", the client's binary is missing"));
@@ -152,10 +143,10 @@ void Explanation::ExplainDecision() {
 
 void Explanation::ExplainStop() {
     if (decision_.installed) {
-        ExplainPidFile(Path("user_kelvane_quay_path"));
+        ExplainPidFile(Path(kUserKelvaneQuayPath));
         return;
     }
-    const std::string older = Path("user_tessaly_path");
+    const std::string older = Path(kUserTessalyPath);
     if (IsFileExist(older, true)) {
         ExplainPidFile(older);
     } else {
@@ -205,7 +196,7 @@ void Explanation::ExplainProcess(const std::string& folder, const std::string& f
 }
 
 void Explanation::ExplainMigration() {
-    const std::string older = Path("user_tessaly_path");
+    const std::string older = Path(kUserTessalyPath);
     if (decision_.installed) {
         Say("migrate", QJsonValue(), "migrate    nothing: the client is installed");
         return;
@@ -218,7 +209,7 @@ void Explanation::ExplainMigration() {
         return;
     }
     const std::string oldData = older + "/data";
-    const std::string newData = Path("user_kelvane_quay_path") + "/data";
+    const std::string newData = Path(kUserKelvaneQuayPath) + "/data";
     const bool hasData = IsFileExist(oldData, true);
     Say("migrate", Q(older),
         "migrate    " + (hasData ? oldData + " to " + newData + ", then" : std::string("no data:")) + " removes " +
@@ -229,11 +220,12 @@ void Explanation::ExplainMigration() {
 }
 
 void Explanation::ExplainBackup() {
-    const std::string folder = Path("user_kelvane_quay_app_path");
+    const std::string folder = Path(kUserKelvaneQuayAppPath);
     const bool isThere = IsFileExist(folder, false);
     std::string name;
     for (int index = 0; index <= kLastBackupIndex; ++index) {
-        const std::string candidate = BackupName(folder, index);
+        std::string candidate;
+        BackupName(folder, index, candidate);
         const bool isFree = !Exists(candidate) || (IsEmptyFolder(candidate) && IsFolder(folder));
         if (Exists(candidate)) {
             findings_.Add(Code::Leftovers, candidate);
@@ -249,7 +241,7 @@ void Explanation::ExplainBackup() {
         Say("backup", QJsonValue(), "backup     none: there is no old copy");
     } else if (name.empty()) {
         Say("backup", QJsonValue(), "backup     none: every name is taken");
-        findings_.Add(Code::NoBackupName, BackupName(folder, 0));
+        findings_.Add(Code::NoBackupName, folder);
     } else {
         Say("backup", Q(name), "backup     " + name);
     }
@@ -257,7 +249,7 @@ void Explanation::ExplainBackup() {
 
 // Whether the folders can be written, and are folders.
 void Explanation::ExplainFolders() {
-    const std::string root = Path("user_kelvane_quay_path");
+    const std::string root = Path(kUserKelvaneQuayPath);
     const QString real = QFileInfo(QString::fromStdString(home_)).canonicalFilePath();
     if (!real.isEmpty() && real.toStdString() != home_) {
         findings_.Add(Code::ThroughLink, home_, "its real path is " + Printable(real.toStdString()));
@@ -277,7 +269,7 @@ void Explanation::ExplainPackage() {
     const std::string package = bundle_ + "/" + kPackageFile;
     Extractor extractor;
     extractor.sourcePath = package;
-    extractor.destPath = Path("user_kelvane_quay_app_path");
+    extractor.destPath = Path(kUserKelvaneQuayAppPath);
     const int count = access(package.c_str(), R_OK) == 0 ? extractor.Count() : -1;
     if (count <= 0) {
         Say("package", QJsonValue(), "package    can't be used: " + package);
@@ -314,7 +306,7 @@ void Explanation::ExplainPackage() {
 // Whether the next start but one would install again.
 void Explanation::ExplainPackageInfo(const std::string& info) {
     std::string bundleInfo;
-    ReadWholeFile(bundle_ + "/" + kBundleInfoFile, kLargestText, bundleInfo);
+    ReadWholeFile(bundle_ + "/" + kInfoFile, kLargestText, bundleInfo);
     if (info == bundleInfo) {
         return;
     }
@@ -336,7 +328,7 @@ void Explanation::ExplainPackageInfo(const std::string& info) {
 }
 
 void Explanation::ExplainSpace(std::int64_t entries, std::int64_t bytes) {
-    const std::string root = Path("user_kelvane_quay_path");
+    const std::string root = Path(kUserKelvaneQuayPath);
     struct statvfs volume = {};
     if (statvfs(Exists(root) ? root.c_str() : home_.c_str(), &volume) != 0) {
         return;
@@ -357,11 +349,11 @@ void Explanation::ExplainSpace(std::int64_t entries, std::int64_t bytes) {
 
 // What every start does.
 void Explanation::ExplainEnd() {
-    const std::string aged = Path("user_tessaly_path") + "/app";
+    const std::string aged = Path(kUserTessalyPath) + "/app";
     const bool isThere = Exists(aged);
     Say("remove", isThere ? QJsonValue(Q(aged)) : QJsonValue(),
         isThere ? "remove     " + aged : "remove     nothing: there is no " + aged);
-    const std::string binary = Path("user_kelvane_quay_ui_path");
+    const std::string binary = Path(kUserKelvaneQuayUiPath);
     Say("start", Q(binary), "start      " + binary);
     if (decision_.installed && access(binary.c_str(), X_OK) != 0) {
         findings_.Add(Code::BinaryNotExecutable, binary);

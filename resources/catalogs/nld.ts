@@ -5,30 +5,49 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
+----------
+Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
         <translation>Verwijderd</translation>
     </message>
     <message>
         <source>Unlink</source>
+        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
+----------
+Button of a connection: ends the link between this computer and the hub (verb).
+----------
+Button: ends the link between this computer and the hub (verb).
+----------
+Button: ends a task&apos;s link with the hub (verb).</extracomment>
         <translation>Ontkoppelen</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
+        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
+----------
+Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Verbinden via Ferrylink</translation>
     </message>
     <message>
         <source>Choose another folder</source>
+        <extracomment>Button beside a warning about the folder that was chosen.</extracomment>
         <translation>Andere map kiezen</translation>
     </message>
     <message>
         <source>Merge</source>
+        <extracomment>Button in a question: puts the files of two folders together.</extracomment>
         <translation>Samenvoegen</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Heading of a message box; also the state of a task that failed.
+----------
+Status of a task.</extracomment>
         <translation>Fout</translation>
     </message>
     <message>
         <source>File conflicts occurred. The file is now renamed as %1.</source>
+        <extracomment>Message: %1 is the new file name.</extracomment>
         <translation>Er zijn bestandsconflicten opgetreden. De naam van het bestand is nu %1.</translation>
     </message>
     <message>
@@ -41,26 +60,36 @@
     </message>
     <message>
         <source>Finish</source>
+        <extracomment>Button on the last page of a wizard: completes the set-up.
+----------
+Button of the installer, on its last page (verb).</extracomment>
         <translation>Voltooien</translation>
     </message>
     <message>
         <source>Local folder</source>
+        <extracomment>Label above the path of the folder on this computer.
+----------
+Column head of the list of shared folders: where each is on this computer.</extracomment>
         <translation>Lokale map</translation>
     </message>
     <message>
         <source>Link again</source>
+        <extracomment>Menu item in the tray menu: links this computer to the hub again.</extracomment>
         <translation>Opnieuw koppelen</translation>
     </message>
     <message>
         <source>About</source>
+        <extracomment>Menu item in the tray menu: opens the box with the version and the copyright.</extracomment>
         <translation>Info</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
+        <extracomment>Status, shown while the wizard signs in.</extracomment>
         <translation>Uw gebruikersnaam en wachtwoord worden gecontroleerd...</translation>
     </message>
     <message>
         <source>Connected successfully</source>
+        <extracomment>Status, shown when the test of the connection is done.</extracomment>
         <translation>Verbinding gemaakt</translation>
     </message>
     <message>
@@ -69,6 +98,7 @@
     </message>
     <message>
         <source>Starting up...</source>
+        <extracomment>Status, shown while the client starts.</extracomment>
         <translation>Bezig met starten...</translation>
     </message>
     <message>
@@ -77,6 +107,7 @@
     </message>
     <message>
         <source>Testing the connection...</source>
+        <extracomment>Status, shown while the wizard tests the connection.</extracomment>
         <translation>De verbinding wordt getest...</translation>
     </message>
     <message>
@@ -85,114 +116,162 @@
     </message>
     <message>
         <source>Change folder</source>
+        <extracomment>Button beside the path of the sync folder.</extracomment>
         <translation>Map wijzigen</translation>
     </message>
     <message>
         <source>The folder is not empty</source>
+        <extracomment>Heading of a warning about the folder that was chosen.</extracomment>
         <translation>De map is niet leeg</translation>
     </message>
     <message>
         <source>Folder path</source>
+        <extracomment>Label beside a field with the path of a folder.</extracomment>
         <translation>Mappad</translation>
     </message>
     <message>
         <source>Ferrylink ID</source>
+        <extracomment>Label beside the field for the identifier of a hub in the Ferrylink service.</extracomment>
         <translation>Ferrylink-ID</translation>
     </message>
     <message>
         <source>Name</source>
+        <extracomment>Column head of a table of properties; stands beside &quot;Value&quot;.</extracomment>
         <translation>Naam</translation>
     </message>
     <message>
         <source>Value</source>
+        <extracomment>Column head of a table of properties; stands beside &quot;Name&quot;.</extracomment>
         <translation>Waarde</translation>
     </message>
     <message>
         <source>Welcome</source>
+        <extracomment>Heading of the first page of a wizard, alone.</extracomment>
         <translation>Welkom</translation>
     </message>
     <message>
         <source>Quit</source>
+        <extracomment>Menu item in the tray menu: ends the client.</extracomment>
         <translation>Afsluiten</translation>
     </message>
     <message>
         <source>Recently updated files</source>
+        <extracomment>Menu item in the tray menu: opens the list of these files.</extracomment>
         <translation>Recent bijgewerkte bestanden</translation>
     </message>
     <message>
         <source>Downloaded</source>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
+----------
+Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
         <translation>Gedownload</translation>
     </message>
     <message>
         <source>Help</source>
+        <extracomment>Button: opens the help.</extracomment>
         <translation>Help</translation>
     </message>
     <message>
         <source>OK</source>
+        <extracomment>Button: closes a box and takes what was entered.
+----------
+Button of the installer.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: closes a box and drops what was entered.
+----------
+Button: drops the changes on the proxy page.
+----------
+Button of the installer.</extracomment>
         <translation>Annuleren</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>Button: goes to the next page of a wizard.
+----------
+Button of the installer: goes to the next page.</extracomment>
         <translation>Volgende</translation>
     </message>
     <message>
         <source>Back</source>
+        <extracomment>Button: goes to the page before in a wizard.
+----------
+Button of the installer: goes to the page before.</extracomment>
         <translation>Vorige</translation>
     </message>
     <message>
         <source>Get started</source>
+        <extracomment>Button on the first page of the set-up: begins with it.</extracomment>
         <translation>Aan de slag</translation>
     </message>
     <message>
         <source>Version</source>
+        <extracomment>Label in the about box, beside the version number.</extracomment>
         <translation>Versie</translation>
     </message>
     <message>
         <source>Looking for changes...</source>
+        <extracomment>Status, shown while the client looks through the folders.</extracomment>
         <translation>Zoeken naar wijzigingen...</translation>
     </message>
     <message>
         <source>The connection to the hub was lost. Reconnecting...</source>
+        <extracomment>Status in the tray.</extracomment>
         <translation>De verbinding met de hub is verbroken. Opnieuw verbinding maken...</translation>
     </message>
     <message>
         <source>Uploaded</source>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
+----------
+Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
         <translation>Geüpload</translation>
     </message>
     <message>
         <source>Customize</source>
+        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
+----------
+Choice of a list of periods: the user sets one (verb).</extracomment>
         <translation>Aanpassen</translation>
     </message>
     <message>
         <source>Time</source>
+        <extracomment>Label beside a time of day.
+----------
+Column head of the list of files: when it happened.
+----------
+Column head of the history: when it happened.</extracomment>
         <translation>Tijd</translation>
     </message>
     <message>
         <source>Local network</source>
+        <extracomment>Choice: how the hub is reached: in the same network.</extracomment>
         <translation>Lokaal netwerk</translation>
     </message>
     <message>
         <source>Direct connection</source>
+        <extracomment>Choice: how the hub is reached: straight, without a relay.</extracomment>
         <translation>Directe verbinding</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
+        <extracomment>Status, short, in the tray: the hub refused username or password.</extracomment>
         <translation>Aanmelden mislukt</translation>
     </message>
     <message>
         <source>Internet</source>
+        <extracomment>Choice: how the hub is reached: over the Internet.</extracomment>
         <translation>Internet</translation>
     </message>
     <message>
         <source>Detecting the connection type...</source>
+        <extracomment>Status: stands in place of the connection type while it is being found out.</extracomment>
         <translation>Het verbindingstype wordt vastgesteld...</translation>
     </message>
     <message>
         <source>Ferrylink relay</source>
+        <extracomment>Choice: how the hub is reached: through the relay server of Ferrylink.</extracomment>
         <translation>Ferrylink-relay</translation>
     </message>
     <message>
@@ -201,6 +280,7 @@
     </message>
     <message>
         <source>%1 files updated</source>
+        <extracomment>Event in a notification; %1 is a number, always more than one.</extracomment>
         <translation>Bijgewerkte bestanden: %1</translation>
     </message>
     <message>
@@ -209,58 +289,84 @@
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
+        <extracomment>Message of a task, and of a notification.
+----------
+Message of a task.</extracomment>
         <translation>Uw opslagquotum op de hub is opgebruikt. Maak ruimte vrij en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Connection type</source>
+        <extracomment>Label beside &quot;Local network&quot;, &quot;Direct connection&quot;, &quot;Internet&quot; or &quot;Ferrylink relay&quot;.</extracomment>
         <translation>Verbindingstype</translation>
     </message>
     <message>
         <source>Read-only folder</source>
+        <extracomment>Heading of a warning: nothing can be changed in the folder.</extracomment>
         <translation>Alleen-lezenmap</translation>
     </message>
     <message>
         <source>Settings</source>
+        <extracomment>Menu item in the tray menu: opens the settings.
+----------
+Button: opens the settings.
+----------
+Tab of the main window.</extracomment>
         <translation>Instellingen</translation>
     </message>
     <message>
         <source>Change the local folder</source>
+        <extracomment>Button in the settings of a shared folder.</extracomment>
         <translation>De lokale map wijzigen</translation>
     </message>
     <message>
         <source>Shared folders</source>
+        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
+----------
+Tab of the settings: the folders that the hub shares.</extracomment>
         <translation>Gedeelde mappen</translation>
     </message>
     <message>
         <source>The SSL certificate of the hub could not be verified.</source>
+        <extracomment>Message of the connection settings, and of a task.</extracomment>
         <translation>Het SSL-certificaat van de hub kan niet worden geverifieerd.</translation>
     </message>
     <message>
         <source>Port</source>
+        <extracomment>Label beside the field for the port number of the proxy server.</extracomment>
         <translation>Poort</translation>
     </message>
     <message>
         <source>Information</source>
+        <extracomment>Heading of a message box that informs.</extracomment>
         <translation>Informatie</translation>
     </message>
     <message>
         <source>Proxy</source>
+        <extracomment>Tab of the settings: the proxy server.</extracomment>
         <translation>Proxy</translation>
     </message>
     <message>
         <source>Do not use a proxy server</source>
+        <extracomment>Choice, first of three: none, the system&apos;s, manual.</extracomment>
         <translation>Geen proxyserver gebruiken</translation>
     </message>
     <message>
         <source>Use the proxy settings of the system</source>
+        <extracomment>Choice, second of three: none, the system&apos;s, manual.</extracomment>
         <translation>De proxyinstellingen van het systeem gebruiken</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Label beside the field for the proxy server&apos;s password.
+----------
+Label beside a field.
+----------
+Label beside a field of a sharing link.</extracomment>
         <translation>Wachtwoord</translation>
     </message>
     <message>
         <source>Select a folder</source>
+        <extracomment>Heading of the box in which a folder is chosen.</extracomment>
         <translation>Een map selecteren</translation>
     </message>
     <message>
@@ -273,10 +379,12 @@
     </message>
     <message>
         <source>Storage full</source>
+        <extracomment>Status, short, in the tray: the user&apos;s space on the hub is used up.</extracomment>
         <translation>Opslag vol</translation>
     </message>
     <message>
         <source>Proxy settings</source>
+        <extracomment>Heading of the proxy page of the settings.</extracomment>
         <translation>Proxyinstellingen</translation>
     </message>
     <message>
@@ -289,10 +397,12 @@
     </message>
     <message>
         <source>No more than %1 shared folders can be synced.</source>
+        <extracomment>Message: %1 is a number.</extracomment>
         <translation>Er kunnen niet meer dan %1 gedeelde mappen worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
+        <extracomment>Status, shown while the settings are being stored.</extracomment>
         <translation>De instellingen worden toegepast...</translation>
     </message>
     <message>
@@ -305,6 +415,7 @@
     </message>
     <message>
         <source>Set up the proxy server manually</source>
+        <extracomment>Choice, third of three: none, the system&apos;s, manual.</extracomment>
         <translation>De proxyserver handmatig configureren</translation>
     </message>
     <message>
@@ -313,78 +424,107 @@
     </message>
     <message>
         <source>Enable synchronization</source>
+        <extracomment>Check box for a shared folder: it is synced.</extracomment>
         <translation>Synchronisatie inschakelen</translation>
     </message>
     <message>
         <source>Shared folder name</source>
+        <extracomment>Column head of the list of shared folders.</extracomment>
         <translation>Naam van gedeelde map</translation>
     </message>
     <message>
         <source>Status</source>
+        <extracomment>Column head of the list of shared folders: whether the folder is synced.
+----------
+Column head of the list of files: whether the file is synced.</extracomment>
         <translation>Status</translation>
     </message>
     <message>
         <source>Apply</source>
+        <extracomment>Button: takes over the changes on the proxy page (verb).
+----------
+Button: takes over the changes (verb).</extracomment>
         <translation>Toepassen</translation>
     </message>
     <message>
         <source>Network settings</source>
+        <extracomment>Button: opens the network page of the system.</extracomment>
         <translation>Netwerkinstellingen</translation>
     </message>
     <message>
         <source>Manage</source>
+        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
+----------
+Button: opens the page on which a thing is managed (verb).</extracomment>
         <translation>Beheren</translation>
     </message>
     <message>
         <source>The proxy server requires sign-in</source>
+        <extracomment>Check box of the proxy page: the fields for username and password follow.</extracomment>
         <translation>De proxyserver vereist aanmelding</translation>
     </message>
     <message>
         <source>Something went wrong</source>
+        <extracomment>Status, short, in the tray: an unexpected error.
+----------
+Status, short, of a task: an unexpected error.</extracomment>
         <translation>Er is iets misgegaan</translation>
     </message>
     <message>
         <source>Updating...</source>
+        <extracomment>Status, short, in the tray: the client or a file is being brought up to date.</extracomment>
         <translation>Bijwerken...</translation>
     </message>
     <message>
         <source>Encrypt data transmission with SSL</source>
+        <extracomment>Check box of the connection settings.</extracomment>
         <translation>Gegevensoverdracht versleutelen met SSL</translation>
     </message>
     <message>
         <source>Hub name, IP address, or Ferrylink ID</source>
+        <extracomment>Label beside the field for how to reach the hub.</extracomment>
         <translation>Hubnaam, IP-adres of Ferrylink-ID</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
+        <extracomment>Check box of the general options.</extracomment>
         <translation>Bureaubladmeldingen weergeven</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
+        <extracomment>Check box of the general options.</extracomment>
         <translation>Pictogrammen met de synchronisatiestatus op bestanden en mappen weergeven</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Tab of the settings.</extracomment>
         <translation>Opties</translation>
     </message>
     <message>
         <source>General options</source>
+        <extracomment>Heading of the general page of the settings.</extracomment>
         <translation>Algemene opties</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
+        <extracomment>Check box of the general options.
+----------
+Check box of the display settings.</extracomment>
         <translation>Een zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is available to you. You can set it to sync with this computer.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>De gedeelde map ‘%1’ is voor u beschikbaar. U kunt instellen dat deze met deze computer wordt gesynchroniseerd.</translation>
     </message>
     <message>
         <source>New shared folder</source>
+        <extracomment>Heading of a notification: someone has shared a folder with the user.</extracomment>
         <translation>Nieuwe gedeelde map</translation>
     </message>
     <message>
         <source>Checking data...</source>
+        <extracomment>Status, short, in the tray.</extracomment>
         <translation>Gegevens controleren...</translation>
     </message>
     <message>
@@ -393,42 +533,52 @@
     </message>
     <message>
         <source>Finishing the setup...</source>
+        <extracomment>Status: last step of the automatic set-up of the client (not of the installer).</extracomment>
         <translation>De configuratie wordt voltooid...</translation>
     </message>
     <message>
         <source>Continue</source>
+        <extracomment>Button: goes on after a warning or a question.</extracomment>
         <translation>Doorgaan</translation>
     </message>
     <message>
         <source>Selective sync</source>
+        <extracomment>Button: opens the choice of the folders and files that are synced.</extracomment>
         <translation>Selectieve synchronisatie</translation>
     </message>
     <message>
         <source>Files and folders that match these rules will not be synced.</source>
+        <extracomment>Message above the rules of a task&apos;s filter.</extracomment>
         <translation>Bestanden en mappen die aan deze regels voldoen, worden niet gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Installing the update...</source>
+        <extracomment>Status, shown while a new version of the client is being installed.</extracomment>
         <translation>De update wordt geïnstalleerd...</translation>
     </message>
     <message>
         <source>File extensions</source>
+        <extracomment>Label above the list of excluded file extensions such as &quot;tmp&quot;.</extracomment>
         <translation>Bestandsextensies</translation>
     </message>
     <message>
         <source>Folder on a mount point</source>
+        <extracomment>Status, short: the shared folder can&apos;t be synced since a volume is mounted in it.</extracomment>
         <translation>Map op een aankoppelpunt</translation>
     </message>
     <message>
         <source>Software update</source>
+        <extracomment>Heading of the box about a new version of the client (noun).</extracomment>
         <translation>Software-update</translation>
     </message>
     <message>
         <source>Progress: %1</source>
+        <extracomment>Status: %1 is a percentage such as 42%.</extracomment>
         <translation>Voortgang: %1</translation>
     </message>
     <message>
         <source>Stop syncing &quot;%1&quot;? The files on this computer and on the hub will be kept.</source>
+        <extracomment>Message: question; %1 is the shared folder&apos;s name.</extracomment>
         <translation>‘%1’ niet meer synchroniseren? De bestanden op deze computer en op de hub blijven behouden.</translation>
     </message>
     <message>
@@ -445,6 +595,11 @@
     </message>
     <message>
         <source>Folder</source>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).
+----------
+Choice of a filter of the history: a type of item (noun, singular).
+----------
+Tab of a task&apos;s settings: the two folders.</extracomment>
         <translation>Map</translation>
     </message>
     <message>
@@ -453,10 +608,20 @@
     </message>
     <message>
         <source>Loading the folder list...</source>
+        <extracomment>Status, shown while the list of folders comes from the hub.</extracomment>
         <translation>De mappenlijst wordt geladen...</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Button: takes the shared folder off the list; its files are kept.
+----------
+Button of the installer: takes the program off the computer (verb).
+----------
+Label of the installer, beside its button: takes the program off the computer (verb).
+----------
+Button: takes an entry off a list (verb).
+----------
+Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
         <translation>Verwijderen</translation>
     </message>
     <message>
@@ -465,62 +630,79 @@
     </message>
     <message>
         <source>Destination</source>
+        <extracomment>Column head of the list of files: the folder that a file goes to.</extracomment>
         <translation>Bestemming</translation>
     </message>
     <message>
         <source>Preparing...</source>
+        <extracomment>Status: state of a task or a file before its transfer.
+----------
+Status: state of a file before its transfer.</extracomment>
         <translation>Voorbereiden...</translation>
     </message>
     <message>
         <source>Uploading...</source>
+        <extracomment>Status: state of a file.</extracomment>
         <translation>Uploaden...</translation>
     </message>
     <message>
         <source>System default</source>
+        <extracomment>Choice of the list of languages: the one of the system.</extracomment>
         <translation>Systeemstandaard</translation>
     </message>
     <message>
         <source>Language</source>
+        <extracomment>Label beside the list of languages.</extracomment>
         <translation>Taal</translation>
     </message>
     <message>
         <source>Folder name</source>
+        <extracomment>Label beside a field, or a column&apos;s head: the name of a folder.</extracomment>
         <translation>Mapnaam</translation>
     </message>
     <message>
         <source>Downloading...</source>
+        <extracomment>Status: state of a file.</extracomment>
         <translation>Downloaden...</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
+        <extracomment>Heading of an installer window; [ProductName] becomes a product name; &quot;Setup&quot; is the installer.</extracomment>
         <translation>Setup van [ProductName]</translation>
     </message>
     <message>
         <source>Syncing %1 files...</source>
+        <extracomment>Status in the tray; %1 is a number, mostly more than one.</extracomment>
         <translation>Bestanden synchroniseren (%1)...</translation>
     </message>
     <message>
         <source>Downloading &quot;%1&quot;...</source>
+        <extracomment>Status: %1 is a file name.</extracomment>
         <translation>‘%1’ wordt gedownload...</translation>
     </message>
     <message>
         <source>Folders to sync</source>
+        <extracomment>Heading of a page: the folders that the user wants to sync.</extracomment>
         <translation>Te synchroniseren mappen</translation>
     </message>
     <message>
         <source>Advanced settings</source>
+        <extracomment>Button: opens further settings of a task.</extracomment>
         <translation>Geavanceerde instellingen</translation>
     </message>
     <message>
         <source>Maximum file size</source>
+        <extracomment>Label beside a field: files above this size are not synced.</extracomment>
         <translation>Maximale bestandsgrootte</translation>
     </message>
     <message>
         <source>Excluded file names</source>
+        <extracomment>Label above the list of names of files that are not synced.</extracomment>
         <translation>Uitgesloten bestandsnamen</translation>
     </message>
     <message>
         <source>Excluded files</source>
+        <extracomment>Heading of the table of files that are not synced.</extracomment>
         <translation>Uitgesloten bestanden</translation>
     </message>
     <message>
@@ -529,30 +711,41 @@
     </message>
     <message>
         <source>File filter</source>
+        <extracomment>Heading of a page: which files are synced and which not (noun).</extracomment>
         <translation>Bestandsfilter</translation>
     </message>
     <message>
         <source>Exclusion list</source>
+        <extracomment>Label above the list of names and extensions that are not synced (noun).</extracomment>
         <translation>Uitsluitingslijst</translation>
     </message>
     <message>
         <source>The folders that you cleared will be removed from this computer. They stay on the hub.</source>
+        <extracomment>Message: to clear is to take the check mark away.</extracomment>
         <translation>De mappen waarvan u de selectie hebt opgeheven, worden van deze computer verwijderd. Ze blijven op de hub staan.</translation>
     </message>
     <message>
         <source>Conflict handling</source>
+        <extracomment>Label beside a list: what happens when a file was changed on both sides.</extracomment>
         <translation>Conflictafhandeling</translation>
     </message>
     <message>
         <source>Loading...</source>
+        <extracomment>Status: stands in place of a list that is on its way.</extracomment>
         <translation>Laden...</translation>
     </message>
     <message>
         <source>Sync mode</source>
+        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
+----------
+Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Synchronisatiemodus</translation>
     </message>
     <message>
         <source>Paused</source>
+        <extracomment>Status in the tray: the task or the client was paused.
+----------
+Status of a task: the task was paused.</extracomment>
         <translation>Gepauzeerd</translation>
     </message>
     <message>
@@ -561,10 +754,12 @@
     </message>
     <message>
         <source>The download of &quot;%1&quot; was canceled.</source>
+        <extracomment>Message: %1 is a file name.</extracomment>
         <translation>Het downloaden van ‘%1’ is geannuleerd.</translation>
     </message>
     <message>
         <source>Start now</source>
+        <extracomment>Button: begins at once what was offered.</extracomment>
         <translation>Nu starten</translation>
     </message>
     <message>
@@ -577,10 +772,16 @@
     </message>
     <message>
         <source>Linking...</source>
+        <extracomment>Status in the tray: this computer is being linked to the hub.</extracomment>
         <translation>Koppelen...</translation>
     </message>
     <message>
         <source>Permission denied</source>
+        <extracomment>Status, short: the user may not use the shared folder.
+----------
+Status, short, of a task: the user may not do this.
+----------
+Heading of the state of a task.</extracomment>
         <translation>Toegang geweigerd</translation>
     </message>
     <message>
@@ -589,74 +790,112 @@
     </message>
     <message>
         <source>Computer name</source>
+        <extracomment>Column head of a list, or a label beside a field: the name of this computer.</extracomment>
         <translation>Computernaam</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
+        <extracomment>Status, short, in the tray: the connection comes and goes.</extracomment>
         <translation>De verbinding is instabiel</translation>
     </message>
     <message>
         <source>Get link</source>
+        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
+----------
+Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Link ophalen</translation>
     </message>
     <message>
         <source>Linking this computer to the hub...</source>
+        <extracomment>Status, shown while this computer is being linked to the hub.</extracomment>
         <translation>Deze computer wordt gekoppeld aan de hub...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
+        <extracomment>Status, shown while the client tries to sync again.</extracomment>
         <translation>Proberen te synchroniseren...</translation>
     </message>
     <message>
         <source>Viewer</source>
+        <extracomment>Choice: a role (noun, a person): may open and read; beside Previewer, Commenter, Editor, Manager.</extracomment>
         <translation>Lezer</translation>
     </message>
     <message>
         <source>Certificate warning</source>
+        <extracomment>Heading of a warning about the SSL certificate.</extracomment>
         <translation>Certificaatwaarschuwing</translation>
     </message>
     <message>
         <source>Pause</source>
+        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
+----------
+Button of a task: interrupts it for a while (verb).
+----------
+Button: interrupts all tasks for a while (verb).
+----------
+Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
         <translation>Pauzeren</translation>
     </message>
     <message>
         <source>Resume</source>
+        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
+----------
+Button of a task: goes on after a pause (verb).
+----------
+Button: goes on with all tasks after a pause (verb).
+----------
+Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
         <translation>Hervatten</translation>
     </message>
     <message>
         <source>Exclusion rules</source>
+        <extracomment>Button: opens the rules by which files are not synced (noun).</extracomment>
         <translation>Uitsluitingsregels</translation>
     </message>
     <message>
         <source>Action</source>
+        <extracomment>Column head of the list of files: what was done with the file (noun).
+----------
+Column head of the history: what was done with the file (noun).</extracomment>
         <translation>Actie</translation>
     </message>
     <message>
         <source>File name</source>
+        <extracomment>Column head of the list of files.
+----------
+Column head of the history.</extracomment>
         <translation>Bestandsnaam</translation>
     </message>
     <message>
         <source>Size</source>
+        <extracomment>Column head of the list of files: the size in bytes.
+----------
+Label beside a file&apos;s size.</extracomment>
         <translation>Grootte</translation>
     </message>
     <message>
         <source>ID</source>
+        <extracomment>Column head of a list: an identifier.</extracomment>
         <translation>ID</translation>
     </message>
     <message>
         <source>Disabled</source>
+        <extracomment>Status of a shared folder: its sync is turned off.</extracomment>
         <translation>Uitgeschakeld</translation>
     </message>
     <message>
         <source>Enabled</source>
+        <extracomment>Status of a shared folder: its sync is turned on.</extracomment>
         <translation>Ingeschakeld</translation>
     </message>
     <message>
         <source>If you stop syncing this shared folder, later changes will not be transferred. The local files will be kept.</source>
+        <extracomment>Message of a question that offers to stop the sync.</extracomment>
         <translation>Als u deze gedeelde map niet meer synchroniseert, worden latere wijzigingen niet overgedragen. De lokale bestanden blijven behouden.</translation>
     </message>
     <message>
         <source>Enable SSL encryption</source>
+        <extracomment>Check box of the connection settings.</extracomment>
         <translation>SSL-versleuteling inschakelen</translation>
     </message>
     <message>
@@ -665,22 +904,27 @@
     </message>
     <message>
         <source>has been shared with you.</source>
+        <extracomment>Fragment: follows the name of a folder or file in a notification: &quot;Photos has been shared with you.&quot;</extracomment>
         <translation>is met u gedeeld.</translation>
     </message>
     <message>
         <source>New share</source>
+        <extracomment>Heading of a notification: someone has shared something with the user (noun).</extracomment>
         <translation>Nieuw gedeeld item</translation>
     </message>
     <message>
         <source>Download completed</source>
+        <extracomment>Heading of a notification.</extracomment>
         <translation>Download voltooid</translation>
     </message>
     <message>
         <source>Download failed</source>
+        <extracomment>Heading of a notification, or the state of a file.</extracomment>
         <translation>Download mislukt</translation>
     </message>
     <message>
         <source>Hub overview</source>
+        <extracomment>Heading of a page: the hub&apos;s name, version, space and so on.</extracomment>
         <translation>Huboverzicht</translation>
     </message>
     <message>
@@ -713,6 +957,7 @@
     </message>
     <message>
         <source>Inactive</source>
+        <extracomment>Heading of the state of a task that can&apos;t reach the hub (adjective; belongs to &quot;task&quot;).</extracomment>
         <translation>Inactief</translation>
     </message>
     <message>
@@ -729,10 +974,12 @@
     </message>
     <message>
         <source>Standby</source>
+        <extracomment>Heading of the state of a task that waits for work (a state, noun or adjective; belongs to &quot;task&quot;).</extracomment>
         <translation>Stand-by</translation>
     </message>
     <message>
         <source>When the tray icon is double-clicked</source>
+        <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
         <translation>Bij dubbelklikken op het systeemvakpictogram</translation>
     </message>
     <message>
@@ -749,14 +996,17 @@
     </message>
     <message>
         <source>Exit</source>
+        <extracomment>Button of the installer: ends it.</extracomment>
         <translation>Afsluiten</translation>
     </message>
     <message>
         <source>Print</source>
+        <extracomment>Button of the installer: prints the license agreement (verb).</extracomment>
         <translation>Afdrukken</translation>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
+        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>De toepassingen geopend laten. U moet de computer daarna opnieuw opstarten.</translation>
     </message>
     <message>
@@ -765,6 +1015,7 @@
     </message>
     <message>
         <source>Launch [ProductName]</source>
+        <extracomment>Check box on the installer&apos;s last page; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] starten</translation>
     </message>
     <message>
@@ -773,18 +1024,24 @@
     </message>
     <message>
         <source>Click Finish to close Setup.</source>
+        <extracomment>Message of the installer; Finish is its button.</extracomment>
         <translation>Klik op Voltooien om Setup te sluiten.</translation>
     </message>
     <message>
         <source>The drive that holds the local folder is not connected.</source>
+        <extracomment>Message of a task; a disk drive of this computer.</extracomment>
         <translation>Het station met de lokale map is niet aangesloten.</translation>
     </message>
     <message>
         <source>Repair [ProductName]</source>
+        <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] herstellen</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
+        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
+----------
+Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Vorige versies bekijken</translation>
     </message>
     <message>
@@ -797,6 +1054,7 @@
     </message>
     <message>
         <source>Download only</source>
+        <extracomment>Choice of the sync direction: from the hub to this computer alone, nothing is uploaded.</extracomment>
         <translation>Alleen downloaden</translation>
     </message>
     <message>
@@ -805,54 +1063,69 @@
     </message>
     <message>
         <source>Ignore</source>
+        <extracomment>Button of the installer, beside Retry: goes on although files are in use (verb).</extracomment>
         <translation>Negeren</translation>
     </message>
     <message>
         <source>No</source>
+        <extracomment>Button: answers a question of the installer.</extracomment>
         <translation>Nee</translation>
     </message>
     <message>
         <source>Information about this computer and the hub that it is linked to.</source>
+        <extracomment>Message: an entry of a list: what the exported file holds about this computer and about the hub.</extracomment>
         <translation>Informatie over deze computer en de hub waaraan deze is gekoppeld.</translation>
     </message>
     <message>
         <source>Status:</source>
+        <extracomment>Label of the installer, before the step that is being done; a colon ends it.</extracomment>
         <translation>Status:</translation>
     </message>
     <message>
         <source>Install</source>
+        <extracomment>Button of the installer (verb).</extracomment>
         <translation>Installeren</translation>
     </message>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
+        <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
         <translation>Met deze wizard kunt u [ProductName] wijzigen, herstellen of verwijderen. Klik op Volgende om door te gaan of op Annuleren om Setup te verlaten.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
+        <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] verwijderen</translation>
     </message>
     <message>
         <source>Read only</source>
+        <extracomment>Status of a shared folder: the user may not change it (adjective; belongs to &quot;folder&quot;).</extracomment>
         <translation>Alleen-lezen</translation>
     </message>
     <message>
         <source>License agreement</source>
+        <extracomment>Heading of an installer page (noun).</extracomment>
         <translation>Licentieovereenkomst</translation>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
+        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Deze toepassingen hebben bestanden geopend die door Setup van [ProductName] moeten worden vervangen:</translation>
     </message>
     <message>
         <source>Sync activity</source>
+        <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
         <translation>Synchronisatieactiviteit</translation>
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
+----------
+Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Herstellen</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
+        <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] installeren</translation>
     </message>
     <message>
@@ -861,10 +1134,14 @@
     </message>
     <message>
         <source>Retry</source>
+        <extracomment>Button of the installer: tries once more (verb).</extracomment>
         <translation>Opnieuw proberen</translation>
     </message>
     <message>
         <source>Yes</source>
+        <extracomment>Button: answers a question of the installer.
+----------
+Button: answers a question.</extracomment>
         <translation>Ja</translation>
     </message>
     <message>
@@ -877,10 +1154,12 @@
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
+        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>De toepassingen nu sluiten en opnieuw openen wanneer Setup klaar is.</translation>
     </message>
     <message>
         <source>Files in use</source>
+        <extracomment>Heading of an installer page: files that other programs have open.</extracomment>
         <translation>Bestanden in gebruik</translation>
     </message>
     <message>
@@ -889,6 +1168,9 @@
     </message>
     <message>
         <source>Change</source>
+        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
+----------
+Button beside a value: another one is chosen (verb).</extracomment>
         <translation>Wijzigen</translation>
     </message>
     <message>
@@ -901,6 +1183,7 @@
     </message>
     <message>
         <source>Change [ProductName]</source>
+        <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] wijzigen</translation>
     </message>
     <message>
@@ -917,6 +1200,7 @@
     </message>
     <message>
         <source>Ready to install [ProductName]</source>
+        <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
         <translation>Gereed om [ProductName] te installeren</translation>
     </message>
     <message>
@@ -929,6 +1213,7 @@
     </message>
     <message>
         <source>Ready to remove [ProductName]</source>
+        <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
         <translation>Gereed om [ProductName] te verwijderen</translation>
     </message>
     <message>
@@ -941,74 +1226,92 @@
     </message>
     <message>
         <source>Ready to repair [ProductName]</source>
+        <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
         <translation>Gereed om [ProductName] te herstellen</translation>
     </message>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
+        <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
         <translation>Klik op Herstellen om te beginnen, op Vorige om een andere actie te kiezen of op Annuleren om Setup te verlaten.</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
+        <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
         <translation>U hebt Setup verlaten voordat [ProductName] was geïnstalleerd. Er is niets gewijzigd op uw computer. U kunt Setup op elk moment opnieuw uitvoeren.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
+        <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
         <translation>Deze wizard installeert [ProductName] op uw computer. Klik op Volgende om door te gaan of op Annuleren om Setup te verlaten.</translation>
     </message>
     <message>
         <source>From</source>
+        <extracomment>Label of a range of dates, before the first field; &quot;To&quot; stands before the second.</extracomment>
         <translation>Van</translation>
     </message>
     <message>
         <source>Welcome to [ProductName] Setup</source>
+        <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
         <translation>Welkom bij Setup van [ProductName]</translation>
     </message>
     <message>
         <source>[ProductName] is now installed</source>
+        <extracomment>Heading of the installer&apos;s last page; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] is nu geïnstalleerd</translation>
     </message>
     <message>
         <source>Setup of [ProductName] was canceled</source>
+        <extracomment>Heading of the installer&apos;s last page; [ProductName] becomes a product name; the user canceled.</extracomment>
         <translation>Setup van [ProductName] is geannuleerd</translation>
     </message>
     <message>
         <source>Download history</source>
+        <extracomment>Heading of the list of what was downloaded (noun).</extracomment>
         <translation>Downloadgeschiedenis</translation>
     </message>
     <message>
         <source>Link to a new hub</source>
+        <extracomment>Button: links this computer to a hub that it does not know yet (verb).</extracomment>
         <translation>Aan een nieuwe hub koppelen</translation>
     </message>
     <message>
         <source>[ProductName] could not be installed</source>
+        <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] kon niet worden geïnstalleerd</translation>
     </message>
     <message>
         <source>Synchronization enabled</source>
+        <extracomment>Status of a shared folder.</extracomment>
         <translation>Synchronisatie ingeschakeld</translation>
     </message>
     <message>
         <source>Add task</source>
+        <extracomment>Button: adds a sync task.</extracomment>
         <translation>Taak toevoegen</translation>
     </message>
     <message>
         <source>I accept the license agreement</source>
+        <extracomment>Choice of the installer, first of two; the user speaks.</extracomment>
         <translation>Ik ga akkoord met de licentieovereenkomst</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Button: empties the fields of a filter (verb).</extracomment>
         <translation>Opnieuw instellen</translation>
     </message>
     <message>
         <source>Folders</source>
+        <extracomment>Heading of the part of a page with the folders to sync (noun, plural).</extracomment>
         <translation>Mappen</translation>
     </message>
     <message>
         <source>Your files, up to date on every device.</source>
+        <extracomment>Label below the product&apos;s name: a slogan.</extracomment>
         <translation>Uw bestanden, up-to-date op elk apparaat.</translation>
     </message>
     <message>
         <source>This is not the hub that %1 was linked to. Please link this computer again.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Dit is niet de hub waaraan %1 was gekoppeld. Koppel deze computer opnieuw.</translation>
     </message>
     <message>
@@ -1017,10 +1320,12 @@
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
+        <extracomment>Message: %1 is the task&apos;s name.</extracomment>
         <translation>De taak ‘%1’ wordt gestopt en de verbinding met de hub wordt verwijderd. De bestanden aan beide kanten blijven behouden.</translation>
     </message>
     <message>
         <source>Open containing folder</source>
+        <extracomment>Menu item: opens the folder that a file lies in.</extracomment>
         <translation>Bovenliggende map openen</translation>
     </message>
     <message>
@@ -1033,14 +1338,17 @@
     </message>
     <message>
         <source>The hub has changed</source>
+        <extracomment>Status, short, in the tray: another hub answers at this address.</extracomment>
         <translation>De hub is gewijzigd</translation>
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the hub.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>De gedeelde map ‘%1’ is niet aangekoppeld op de hub.</translation>
     </message>
     <message>
         <source>Today</source>
+        <extracomment>Choice of a list of periods, or the head of a group of events.</extracomment>
         <translation>Vandaag</translation>
     </message>
     <message>
@@ -1049,10 +1357,12 @@
     </message>
     <message>
         <source>Folder location</source>
+        <extracomment>Label beside the path of a folder.</extracomment>
         <translation>Maplocatie</translation>
     </message>
     <message>
         <source>Sync to this computer</source>
+        <extracomment>Label beside a check box: the folder is synced to this computer (verb).</extracomment>
         <translation>Synchroniseren met deze computer</translation>
     </message>
     <message>
@@ -1061,6 +1371,7 @@
     </message>
     <message>
         <source>Sync, share, and protect your files</source>
+        <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
         <translation>Uw bestanden synchroniseren, delen en beschermen</translation>
     </message>
     <message>
@@ -1069,6 +1380,9 @@
     </message>
     <message>
         <source>Yesterday</source>
+        <extracomment>Choice of a list of periods, or the head of a group of events.
+----------
+Choice of a list of periods.</extracomment>
         <translation>Gisteren</translation>
     </message>
     <message>
@@ -1077,14 +1391,17 @@
     </message>
     <message>
         <source>Quick setup</source>
+        <extracomment>Choice of the wizard, first of two ways to set up the client (not the installer; noun).</extracomment>
         <translation>Snelle configuratie</translation>
     </message>
     <message>
         <source>Items %1 to %2 of %3</source>
+        <extracomment>Label below a list; %1 and %2 are the numbers of the first and the last item shown, %3 is how many there are.</extracomment>
         <translation>Items %1 tot en met %2 van %3</translation>
     </message>
     <message>
         <source>Got it</source>
+        <extracomment>Button: closes a hint: the user has understood it.</extracomment>
         <translation>Begrepen</translation>
     </message>
     <message>
@@ -1097,14 +1414,17 @@
     </message>
     <message>
         <source>Date range</source>
+        <extracomment>Label of a filter, beside two dates.</extracomment>
         <translation>Datumbereik</translation>
     </message>
     <message>
         <source>Stop syncing this folder</source>
+        <extracomment>Menu item of the file manager, one folder: it is no longer synced.</extracomment>
         <translation>Deze map niet meer synchroniseren</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
+        <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
         <translation>%1 uur geleden</translation>
     </message>
     <message>
@@ -1113,142 +1433,185 @@
     </message>
     <message>
         <source>May</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>mei</translation>
     </message>
     <message>
         <source>This computer is already linked</source>
+        <extracomment>Heading of a warning of the wizard.</extracomment>
         <translation>Deze computer is al gekoppeld</translation>
     </message>
     <message>
         <source>Renamed</source>
+        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
+----------
+Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
         <translation>Hernoemd</translation>
     </message>
     <message>
         <source>%1 days ago</source>
+        <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
         <translation>%1 dag(en) geleden</translation>
     </message>
     <message>
         <source>Just now</source>
+        <extracomment>Status: how long ago a file changed: less than a minute.</extracomment>
         <translation>Zojuist</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
+        <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
         <translation>%1 min. geleden</translation>
     </message>
     <message>
         <source>File</source>
+        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
+----------
+Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Bestand</translation>
     </message>
     <message>
         <source>Last month</source>
+        <extracomment>Choice of a list of periods: the calendar month before this one.</extracomment>
         <translation>Vorige maand</translation>
     </message>
     <message>
         <source>Keyword</source>
+        <extracomment>Label beside the field for a word to search for.</extracomment>
         <translation>Trefwoord</translation>
     </message>
     <message>
         <source>To</source>
+        <extracomment>Label of a range of dates, before the second field; &quot;From&quot; stands before the first.</extracomment>
         <translation>Tot en met</translation>
     </message>
     <message>
         <source>Type</source>
+        <extracomment>Label beside a list: the type of item.
+----------
+Column head of a list: the kind of file.</extracomment>
         <translation>Type</translation>
     </message>
     <message>
         <source>Last week</source>
+        <extracomment>Choice of a list of periods: the calendar week before this one.</extracomment>
         <translation>Vorige week</translation>
     </message>
     <message>
         <source>April</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>april</translation>
     </message>
     <message>
         <source>February</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>februari</translation>
     </message>
     <message>
         <source>August</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>augustus</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>Button: begins a search (verb).</extracomment>
         <translation>Zoeken</translation>
     </message>
     <message>
         <source>October</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>oktober</translation>
     </message>
     <message>
         <source>Sync this folder again</source>
+        <extracomment>Menu item of the file manager, one folder: it is synced once more.</extracomment>
         <translation>Deze map weer synchroniseren</translation>
     </message>
     <message>
         <source>Stop syncing these folders</source>
+        <extracomment>Menu item of the file manager, several folders: they are no longer synced.</extracomment>
         <translation>Deze mappen niet meer synchroniseren</translation>
     </message>
     <message>
         <source>No history to show</source>
+        <extracomment>Status: stands in place of an empty list.</extracomment>
         <translation>Geen geschiedenis om weer te geven</translation>
     </message>
     <message>
         <source>Sync these folders again</source>
+        <extracomment>Menu item of the file manager, several folders: they are synced once more.</extracomment>
         <translation>Deze mappen weer synchroniseren</translation>
     </message>
     <message>
         <source>Send to</source>
+        <extracomment>Fragment, first part of a menu item; the name of a hub or folder follows: &quot;Send to Office&quot;.</extracomment>
         <translation>Verzenden naar</translation>
     </message>
     <message>
         <source>January</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>januari</translation>
     </message>
     <message>
         <source>November</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>november</translation>
     </message>
     <message>
         <source>Now syncing</source>
+        <extracomment>Heading of the list of files that are being synced at present.</extracomment>
         <translation>Wordt gesynchroniseerd</translation>
     </message>
     <message>
         <source>September</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>september</translation>
     </message>
     <message>
         <source>All events</source>
+        <extracomment>Choice of a filter of the history: no type of event is left out.</extracomment>
         <translation>Alle gebeurtenissen</translation>
     </message>
     <message>
         <source>July</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>juli</translation>
     </message>
     <message>
         <source>Date</source>
+        <extracomment>Column head of the history: the day.</extracomment>
         <translation>Datum</translation>
     </message>
     <message>
         <source>June</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>juni</translation>
     </message>
     <message>
         <source>March</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>maart</translation>
     </message>
     <message>
         <source>December</source>
+        <extracomment>Label: a month&apos;s name, in the head of a calendar.</extracomment>
         <translation>december</translation>
     </message>
     <message>
         <source>File type</source>
+        <extracomment>Column head of the history: the kind of file.</extracomment>
         <translation>Bestandstype</translation>
     </message>
     <message>
         <source>Advanced setup</source>
+        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
+----------
+Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
         <translation>Geavanceerde configuratie</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
+        <extracomment>Check box below a message.</extracomment>
         <translation>Dit bericht niet meer weergeven</translation>
     </message>
     <message>
@@ -1261,6 +1624,7 @@
     </message>
     <message>
         <source>Setup is complete</source>
+        <extracomment>Heading of the wizard&apos;s last page: the client is set up (not the installer).</extracomment>
         <translation>De configuratie is voltooid</translation>
     </message>
     <message>
@@ -1273,38 +1637,49 @@
     </message>
     <message>
         <source>Setup mode</source>
+        <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
         <translation>Configuratiemodus</translation>
     </message>
     <message>
         <source>No, thanks</source>
+        <extracomment>Button: turns an offer down.</extracomment>
         <translation>Nee, bedankt</translation>
     </message>
     <message>
         <source>Sync your files</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
         <translation>Uw bestanden synchroniseren</translation>
     </message>
     <message>
         <source>Keep an eye on changes</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
         <translation>Wijzigingen in het oog houden</translation>
     </message>
     <message>
         <source>Find hubs on the local network</source>
+        <extracomment>Button of the wizard.</extracomment>
         <translation>Hubs op het lokale netwerk zoeken</translation>
     </message>
     <message>
         <source>Status information</source>
+        <extracomment>Heading of a box with the state of a task.</extracomment>
         <translation>Statusinformatie</translation>
     </message>
     <message>
         <source>Username</source>
+        <extracomment>Label beside a field.
+----------
+Label beside the field for the proxy server&apos;s user.</extracomment>
         <translation>Gebruikersnaam</translation>
     </message>
     <message>
         <source>Update available</source>
+        <extracomment>Menu item in the tray menu: there is a newer version of the client (noun and adjective).</extracomment>
         <translation>Update beschikbaar</translation>
     </message>
     <message>
         <source>User: %1</source>
+        <extracomment>Screen reader: %1 is a user&apos;s name; &quot;User&quot; is the kind of entry.</extracomment>
         <translation>Gebruiker: %1</translation>
     </message>
     <message>
@@ -1313,18 +1688,22 @@
     </message>
     <message>
         <source>Open main window</source>
+        <extracomment>Menu item in the tray menu.</extracomment>
         <translation>Hoofdvenster openen</translation>
     </message>
     <message>
         <source>Link this computer to another hub</source>
+        <extracomment>Choice of the wizard: what to set up next.</extracomment>
         <translation>Deze computer aan een andere hub koppelen</translation>
     </message>
     <message>
         <source>Sync another folder with this hub</source>
+        <extracomment>Choice of the wizard: what to set up next.</extracomment>
         <translation>Nog een map met deze hub synchroniseren</translation>
     </message>
     <message>
         <source>New sync task</source>
+        <extracomment>Heading of a wizard page.</extracomment>
         <translation>Nieuwe synchronisatietaak</translation>
     </message>
     <message>
@@ -1333,14 +1712,17 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>Button: closes the wizard&apos;s last page.</extracomment>
         <translation>Gereed</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
+        <extracomment>Message: %1 is a number.</extracomment>
         <translation>Bestanden groter dan %1 MB worden niet gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Open folder</source>
+        <extracomment>Button: opens the folder.</extracomment>
         <translation>Map openen</translation>
     </message>
     <message>
@@ -1349,6 +1731,7 @@
     </message>
     <message>
         <source>Search the local network for hubs</source>
+        <extracomment>Tooltip of the button that searches.</extracomment>
         <translation>Het lokale netwerk doorzoeken op hubs</translation>
     </message>
     <message>
@@ -1357,6 +1740,7 @@
     </message>
     <message>
         <source>Find more guides in the &lt;a href=&quot;https://help.kelvane.example/tutorials&quot;&gt;tutorials&lt;/a&gt;.</source>
+        <extracomment>Message: %1 is a link; keep it as it is.</extracomment>
         <translation>Meer handleidingen vindt u in de &lt;a href=&quot;https://help.kelvane.example/tutorials&quot;&gt;zelfstudies&lt;/a&gt;.</translation>
     </message>
     <message>
@@ -1365,18 +1749,22 @@
     </message>
     <message>
         <source>Open file</source>
+        <extracomment>Menu item: opens the file.</extracomment>
         <translation>Bestand openen</translation>
     </message>
     <message>
         <source>This computer is already linked to the hub &quot;%1&quot;.</source>
+        <extracomment>Message: %1 is the hub&apos;s name.</extracomment>
         <translation>Deze computer is al gekoppeld aan de hub ‘%1’.</translation>
     </message>
     <message>
         <source>A folder named &quot;Tessaly&quot; will be created at this location.</source>
+        <extracomment>Message of the wizard.</extracomment>
         <translation>Op deze locatie wordt een map met de naam ‘Tessaly’ gemaakt.</translation>
     </message>
     <message>
         <source>If you continue, the existing link will be replaced.</source>
+        <extracomment>Message of the wizard; &quot;link&quot; is that of this computer to the hub, not a URL.</extracomment>
         <translation>Als u doorgaat, wordt de bestaande koppeling vervangen.</translation>
     </message>
     <message>
@@ -1385,6 +1773,7 @@
     </message>
     <message>
         <source>Home folder</source>
+        <extracomment>Label: the folder of the user on the hub.</extracomment>
         <translation>Thuismap</translation>
     </message>
     <message>
@@ -1393,14 +1782,17 @@
     </message>
     <message>
         <source>The SSL certificate of the hub has changed. Please confirm the new certificate.</source>
+        <extracomment>Message of a task; a button beside it confirms.</extracomment>
         <translation>Het SSL-certificaat van de hub is gewijzigd. Bevestig het nieuwe certificaat.</translation>
     </message>
     <message>
         <source>Set the folders to sync</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>De te synchroniseren mappen instellen</translation>
     </message>
     <message>
         <source>The sync direction does not match your permissions on the remote folder.</source>
+        <extracomment>Message of a task; the direction is upload only, download only or two-way.</extracomment>
         <translation>De synchronisatierichting komt niet overeen met uw machtigingen voor de externe map.</translation>
     </message>
     <message>
@@ -1409,30 +1801,37 @@
     </message>
     <message>
         <source>When a file was changed on both sides:</source>
+        <extracomment>Label above three choices, ends in a colon.</extracomment>
         <translation>Wanneer een bestand aan beide kanten is gewijzigd:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
+        <extracomment>Heading of the wizard&apos;s first page.</extracomment>
         <translation>Welkom bij de configuratiewizard</translation>
     </message>
     <message>
         <source>Last page</source>
+        <extracomment>Tooltip of the button that turns to the last page of a list (&quot;last&quot; as the opposite of first).</extracomment>
         <translation>Laatste pagina</translation>
     </message>
     <message>
         <source>First page</source>
+        <extracomment>Tooltip of the button that turns to the first page of a list.</extracomment>
         <translation>Eerste pagina</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
+        <extracomment>Tooltip of the button that turns back several pages; %1 is a number, more than one.</extracomment>
         <translation>%1 pagina’s terug</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
+        <extracomment>Tooltip of the button that turns on several pages; %1 is a number, more than one.</extracomment>
         <translation>%1 pagina’s vooruit</translation>
     </message>
     <message>
         <source>Unlinking...</source>
+        <extracomment>Status, shown while this computer&apos;s link to the hub is being ended.</extracomment>
         <translation>Ontkoppelen...</translation>
     </message>
     <message>
@@ -1449,14 +1848,17 @@
     </message>
     <message>
         <source>Sync folders</source>
+        <extracomment>Heading of a wizard page: the folders that are synced (noun).</extracomment>
         <translation>Synchronisatiemappen</translation>
     </message>
     <message>
         <source>Keep the version that was modified last</source>
+        <extracomment>Choice, first of three: what happens when a file was changed on both sides.</extracomment>
         <translation>De laatst gewijzigde versie behouden</translation>
     </message>
     <message>
         <source>Two-way sync</source>
+        <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
         <translation>In beide richtingen</translation>
     </message>
     <message>
@@ -1465,10 +1867,12 @@
     </message>
     <message>
         <source>Shared folder</source>
+        <extracomment>Choice: a type of folder on the hub (noun).</extracomment>
         <translation>Gedeelde map</translation>
     </message>
     <message>
         <source>requested access to the Bureau template</source>
+        <extracomment>Fragment in a list of notifications, between a person&apos;s name and a template&apos;s: &quot;Ann requested access to the Bureau template Memo&quot;.</extracomment>
         <translation>vraagt toegang tot de Bureau-sjabloon</translation>
     </message>
     <message>
@@ -1477,6 +1881,7 @@
     </message>
     <message>
         <source>%1 requested access to the Bureau template &quot;%2&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the template&apos;s.</extracomment>
         <translation>%1 vraagt toegang tot de Bureau-sjabloon ‘%2’.</translation>
     </message>
     <message>
@@ -1493,10 +1898,12 @@
     </message>
     <message>
         <source>Enter the 6-digit verification code</source>
+        <extracomment>Hint in the empty field for the code.</extracomment>
         <translation>Voer de 6-cijferige verificatiecode in</translation>
     </message>
     <message>
         <source>Hours</source>
+        <extracomment>Choice: a unit of time in a list, beside a field for the number (plural).</extracomment>
         <translation>Uren</translation>
     </message>
     <message>
@@ -1513,22 +1920,29 @@
     </message>
     <message>
         <source>Sync</source>
+        <extracomment>Tab of the settings: syncing (noun).
+----------
+Choice of a filter of notifications: those about syncing (noun).</extracomment>
         <translation>Synchronisatie</translation>
     </message>
     <message>
         <source>Always keep the version on the hub</source>
+        <extracomment>Choice, second of three: what happens when a file was changed on both sides.</extracomment>
         <translation>Altijd de versie op de hub behouden</translation>
     </message>
     <message>
         <source>Rename conflicting files and keep both versions</source>
+        <extracomment>Choice, third of three: what happens when a file was changed on both sides.</extracomment>
         <translation>Conflicterende bestanden hernoemen en beide versies behouden</translation>
     </message>
     <message>
         <source>Summary</source>
+        <extracomment>Heading of the wizard&apos;s last page: what was set up.</extracomment>
         <translation>Samenvatting</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the Bureau template &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the template&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot de Bureau-sjabloon ‘%4’.</translation>
     </message>
     <message>
@@ -1537,62 +1951,77 @@
     </message>
     <message>
         <source>Account</source>
+        <extracomment>Label in the wizard&apos;s summary: the user&apos;s account on the hub.</extracomment>
         <translation>Account</translation>
     </message>
     <message>
         <source>List of connections</source>
+        <extracomment>Screen reader: names a list.</extracomment>
         <translation>Lijst met verbindingen</translation>
     </message>
     <message>
         <source>Connected hub</source>
+        <extracomment>Screen reader: names the hub that this computer has a connection to now; not the same as &quot;Linked hub&quot;.</extracomment>
         <translation>Verbonden hub</translation>
     </message>
     <message>
         <source>Copy the sharing link</source>
+        <extracomment>Screen reader: names a button; the link is a URL.</extracomment>
         <translation>De link voor delen kopiëren</translation>
     </message>
     <message>
         <source>Remove this user&apos;s permission</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>De machtiging van deze gebruiker verwijderen</translation>
     </message>
     <message>
         <source>Group: %1</source>
+        <extracomment>Screen reader: %1 is a group&apos;s name; &quot;Group&quot; is the kind of entry.</extracomment>
         <translation>Groep: %1</translation>
     </message>
     <message>
         <source>Open the web portal of Tessaly</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>Het webportaal van Tessaly openen</translation>
     </message>
     <message>
         <source>This computer</source>
+        <extracomment>Screen reader: names one of the two sides of a task.</extracomment>
         <translation>Deze computer</translation>
     </message>
     <message>
         <source>Linked hub</source>
+        <extracomment>Screen reader: names the other of the two sides of a task: the hub that this computer is linked to; not the same as &quot;Connected hub&quot;.</extracomment>
         <translation>Gekoppelde hub</translation>
     </message>
     <message>
         <source>Sync task for the files that others share with you</source>
+        <extracomment>Screen reader: describes a task.</extracomment>
         <translation>Synchronisatietaak voor de bestanden die anderen met u delen</translation>
     </message>
     <message>
         <source>Recently changed files tab</source>
+        <extracomment>Screen reader: names a tab: the tab with the files that were changed lately.</extracomment>
         <translation>Tabblad Recent gewijzigde bestanden</translation>
     </message>
     <message>
         <source>Tutorial page 2: sync your files</source>
+        <extracomment>Screen reader: names a page of the tutorial.</extracomment>
         <translation>Zelfstudie, pagina 2: uw bestanden synchroniseren</translation>
     </message>
     <message>
         <source>Tutorial page 3: keep an eye on changes</source>
+        <extracomment>Screen reader: names a page of the tutorial.</extracomment>
         <translation>Zelfstudie, pagina 3: wijzigingen in het oog houden</translation>
     </message>
     <message>
         <source>Tutorial page 4: share with others</source>
+        <extracomment>Screen reader: names a page of the tutorial.</extracomment>
         <translation>Zelfstudie, pagina 4: delen met anderen</translation>
     </message>
     <message>
         <source>Choose a sharing permission</source>
+        <extracomment>Screen reader: names a list of permissions.</extracomment>
         <translation>Kies een machtiging voor delen</translation>
     </message>
     <message>
@@ -1601,22 +2030,29 @@
     </message>
     <message>
         <source>hours</source>
+        <extracomment>Fragment, unit after a number field: &quot;Every [4] hours&quot;; the number is mostly more than one.</extracomment>
         <translation>uur</translation>
     </message>
     <message>
         <source>Hub</source>
+        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
+----------
+Label beside the field for the hub&apos;s address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
         <source>Open my folder</source>
+        <extracomment>Button on the wizard&apos;s last page: opens the user&apos;s synced folder.</extracomment>
         <translation>Mijn map openen</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
+        <extracomment>Status, short, of a task.</extracomment>
         <translation>Gedeelde map niet gevonden</translation>
     </message>
     <message>
         <source>Version %1</source>
+        <extracomment>Label in the about box; %1 is a version number.</extracomment>
         <translation>Versie %1</translation>
     </message>
     <message>
@@ -1629,14 +2065,17 @@
     </message>
     <message>
         <source>Some fields contain invalid values. Please check the highlighted fields.</source>
+        <extracomment>Message above a form.</extracomment>
         <translation>Sommige velden bevatten ongeldige waarden. Controleer de gemarkeerde velden.</translation>
     </message>
     <message>
         <source>Sync direction</source>
+        <extracomment>Label beside a list: two-way sync, upload only, download only.</extracomment>
         <translation>Synchronisatierichting</translation>
     </message>
     <message>
         <source>Something went wrong in one of your tasks. Open the main window for details.</source>
+        <extracomment>Message of a notification.</extracomment>
         <translation>Er is iets misgegaan in een van uw taken. Open het hoofdvenster voor meer informatie.</translation>
     </message>
     <message>
@@ -1649,14 +2088,17 @@
     </message>
     <message>
         <source>Address</source>
+        <extracomment>Label beside the field for the proxy server&apos;s address in the network.</extracomment>
         <translation>Adres</translation>
     </message>
     <message>
         <source>Expires after</source>
+        <extracomment>Label of a sharing link, before a number of days or a date: &quot;Expires after [30] days&quot;.</extracomment>
         <translation>Verloopt na</translation>
     </message>
     <message>
         <source>No actions available</source>
+        <extracomment>Menu item: can&apos;t be chosen; stands in place of the client&apos;s menu items.</extracomment>
         <translation>Geen acties beschikbaar</translation>
     </message>
     <message>
@@ -1665,6 +2107,7 @@
     </message>
     <message>
         <source>Enter a full file name, such as &quot;desktop.ini&quot;, and press Enter.</source>
+        <extracomment>Tooltip of a field; &quot;desktop.ini&quot; is an example and stays; Enter is the key.</extracomment>
         <translation>Voer een volledige bestandsnaam in, zoals ‘desktop.ini’, en druk op Enter.</translation>
     </message>
     <message>
@@ -1673,10 +2116,12 @@
     </message>
     <message>
         <source>Compare all file attributes when looking for changes</source>
+        <extracomment>Check box of a task&apos;s settings.</extracomment>
         <translation>Alle bestandskenmerken vergelijken bij het zoeken naar wijzigingen</translation>
     </message>
     <message>
         <source>Valid until</source>
+        <extracomment>Label of a sharing link, before a date.</extracomment>
         <translation>Geldig tot</translation>
     </message>
     <message>
@@ -1685,30 +2130,37 @@
     </message>
     <message>
         <source>Restrict access</source>
+        <extracomment>Heading of a part of the page for a sharing link (verb: who may open the link).</extracomment>
         <translation>Toegang beperken</translation>
     </message>
     <message>
         <source>Show sync actions in the context menu of files and folders</source>
+        <extracomment>Check box of the general options.</extracomment>
         <translation>Synchronisatieacties in het snelmenu van bestanden en mappen weergeven</translation>
     </message>
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
+        <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
         <translation>De thuismapservice is uitgeschakeld op de hub. Neem contact op met uw beheerder.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
+        <extracomment>Message: %1 is the address in the link; keep the tag as it is.</extracomment>
         <translation>Het bijwerken is mislukt. &lt;a href=&quot;%1&quot;&gt;Download de nieuwste versie&lt;/a&gt; en installeer deze handmatig.</translation>
     </message>
     <message>
         <source>Apply and copy link</source>
+        <extracomment>Button of the page for a sharing link (URL).</extracomment>
         <translation>Toepassen en link kopiëren</translation>
     </message>
     <message>
         <source>Limit the number of visits</source>
+        <extracomment>Check box of a sharing link: how often it may be opened.</extracomment>
         <translation>Het aantal bezoeken beperken</translation>
     </message>
     <message>
         <source>Valid from</source>
+        <extracomment>Label of a sharing link, before a date.</extracomment>
         <translation>Geldig vanaf</translation>
     </message>
     <message>
@@ -1721,90 +2173,114 @@
     </message>
     <message>
         <source>Show information</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>Informatie weergeven</translation>
     </message>
     <message>
         <source>Add a file name</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>Een bestandsnaam toevoegen</translation>
     </message>
     <message>
         <source>Folder on this computer</source>
+        <extracomment>Screen reader: names the side of a task on this computer.</extracomment>
         <translation>Map op deze computer</translation>
     </message>
     <message>
         <source>Choose a language</source>
+        <extracomment>Screen reader: names a list.</extracomment>
         <translation>Kies een taal</translation>
     </message>
     <message>
         <source>List of the file versions that are being downloaded</source>
+        <extracomment>Screen reader: names a list.</extracomment>
         <translation>Lijst met bestandsversies die worden gedownload</translation>
     </message>
     <message>
         <source>Customize the validity period</source>
+        <extracomment>Button of a sharing link: sets from when until when it may be opened (verb).</extracomment>
         <translation>De geldigheidsduur aanpassen</translation>
     </message>
     <message>
         <source>Show the tutorial of %1</source>
+        <extracomment>Button: opens the tutorial; %1 is a product name.</extracomment>
         <translation>De zelfstudie voor %1 weergeven</translation>
     </message>
     <message>
         <source>Change the sync folder</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>De synchronisatiemap wijzigen</translation>
     </message>
     <message>
         <source>Linked sync folder</source>
+        <extracomment>Screen reader: names the folder on this computer that belongs to a folder on the hub.</extracomment>
         <translation>Gekoppelde synchronisatiemap</translation>
     </message>
     <message>
         <source>Refresh the history</source>
+        <extracomment>Screen reader: names a button; the history is the list of transfers.</extracomment>
         <translation>De geschiedenis vernieuwen</translation>
     </message>
     <message>
         <source>Previous month</source>
+        <extracomment>Screen reader: names a button of a calendar.</extracomment>
         <translation>Vorige maand</translation>
     </message>
     <message>
         <source>Enter a keyword to search the history</source>
+        <extracomment>Hint in the empty field for a search of the history.</extracomment>
         <translation>Voer een trefwoord in om de geschiedenis te doorzoeken</translation>
     </message>
     <message>
         <source>Add a folder</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>Een map toevoegen</translation>
     </message>
     <message>
         <source>Calendar</source>
+        <extracomment>Screen reader: names a calendar.</extracomment>
         <translation>Kalender</translation>
     </message>
     <message>
         <source>Next month</source>
+        <extracomment>Screen reader: names a button of a calendar.</extracomment>
         <translation>Volgende maand</translation>
     </message>
     <message>
         <source>Choose a type of event</source>
+        <extracomment>Screen reader: names a list.</extracomment>
         <translation>Kies een type gebeurtenis</translation>
     </message>
     <message>
         <source>Sync task &quot;%1&quot;</source>
+        <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
         <translation>Synchronisatietaak ‘%1’</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
+        <extracomment>Screen reader: names the side of a task on the hub.
+----------
+Label in the wizard&apos;s summary.</extracomment>
         <translation>Map op de hub</translation>
     </message>
     <message>
         <source>Settings window</source>
+        <extracomment>Screen reader: names a window.</extracomment>
         <translation>Instellingenvenster</translation>
     </message>
     <message>
         <source>Close the tutorial</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>De zelfstudie sluiten</translation>
     </message>
     <message>
         <source>Cancel this download</source>
+        <extracomment>Screen reader: names a button.</extracomment>
         <translation>Deze download annuleren</translation>
     </message>
     <message>
         <source>Remove this download from the list</source>
+        <extracomment>Screen reader: names a button: the download&apos;s line leaves the list, the file stays.</extracomment>
         <translation>Deze download uit de lijst verwijderen</translation>
     </message>
     <message>
@@ -1813,26 +2289,32 @@
     </message>
     <message>
         <source>Editor</source>
+        <extracomment>Choice: a role (noun, a person): may open and change; beside Viewer, Previewer, Commenter, Manager.</extracomment>
         <translation>Bewerker</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
+        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).</extracomment>
         <translation>Hernoemd op deze computer</translation>
     </message>
     <message>
         <source>Renamed on the hub</source>
+        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).</extracomment>
         <translation>Hernoemd op de hub</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
+        <extracomment>Message: %1 is a number.</extracomment>
         <translation>Voer niet meer dan %1 tekens in.</translation>
     </message>
     <message>
         <source>This is not the account that the task was created with. Please sign in as &quot;%1&quot;.</source>
+        <extracomment>Message: %1 is the name of an account.</extracomment>
         <translation>Dit is niet het account waarmee de taak is gemaakt. Meld u aan als ‘%1’.</translation>
     </message>
     <message>
         <source>Hub information</source>
+        <extracomment>Heading of a page about the hub.</extracomment>
         <translation>Hubinformatie</translation>
     </message>
     <message>
@@ -1841,6 +2323,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
+        <extracomment>Message: %1 is a file name.</extracomment>
         <translation>‘%1’ kan niet worden gedownload. Probeer het later opnieuw.</translation>
     </message>
     <message>
@@ -1849,30 +2332,41 @@
     </message>
     <message>
         <source>Notifications</source>
+        <extracomment>Heading of a page.
+----------
+Tab of the settings.
+----------
+Heading of the tray&apos;s list of notifications.</extracomment>
         <translation>Meldingen</translation>
     </message>
     <message>
         <source>commented on</source>
+        <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann commented on Plan.txt&quot;.</extracomment>
         <translation>heeft gereageerd op</translation>
     </message>
     <message>
         <source>Open in web portal</source>
+        <extracomment>Menu item of a notification: opens what it is about.</extracomment>
         <translation>Openen in webportaal</translation>
     </message>
     <message>
         <source>Set up</source>
+        <extracomment>Button: begins to set up what is named beside it (verb).</extracomment>
         <translation>Configureren</translation>
     </message>
     <message>
         <source>Open synced folder</source>
+        <extracomment>Menu item in the tray menu: opens the folder that is synced.</extracomment>
         <translation>Gesynchroniseerde map openen</translation>
     </message>
     <message>
         <source>You only have read access to this folder. %1 will not upload your changes.</source>
+        <extracomment>Tooltip of a folder; %1 is a product name.</extracomment>
         <translation>U hebt alleen leestoegang tot deze map. %1 uploadt uw wijzigingen niet.</translation>
     </message>
     <message>
         <source>%1 is now linked to the hub and will keep your files in sync.</source>
+        <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
         <translation>%1 is nu gekoppeld aan de hub en houdt uw bestanden gesynchroniseerd.</translation>
     </message>
     <message>
@@ -1881,22 +2375,27 @@
     </message>
     <message>
         <source>%1 is ready.</source>
+        <extracomment>Status, label of the start-up dialog; %1 is the product name; fixed.</extracomment>
         <translation>%1 is gereed.</translation>
     </message>
     <message>
         <source>%1 is already running.</source>
+        <extracomment>Message in a box; %1 is a product name.</extracomment>
         <translation>%1 wordt al uitgevoerd.</translation>
     </message>
     <message>
         <source>%1 keeps the files on your computers and on the hub identical.</source>
+        <extracomment>Message of the wizard; %1 is a product name.</extracomment>
         <translation>%1 houdt de bestanden op uw computers en op de hub identiek.</translation>
     </message>
     <message>
         <source>Preview and comment</source>
+        <extracomment>Choice: a right on a shared file: look at it without downloading it, and comment on it (verbs).</extracomment>
         <translation>Voorbeeld en reacties</translation>
     </message>
     <message>
         <source>%1 could not be updated. Please try again later.</source>
+        <extracomment>Message in a box; %1 is a product name.</extracomment>
         <translation>%1 kan niet worden bijgewerkt. Probeer het later opnieuw.</translation>
     </message>
     <message>
@@ -1909,10 +2408,12 @@
     </message>
     <message>
         <source>Choose what to sync with the new task</source>
+        <extracomment>Screen reader: describes a page of the wizard.</extracomment>
         <translation>Kies wat u met de nieuwe taak wilt synchroniseren</translation>
     </message>
     <message>
         <source>The folder belongs to Dropbox. Syncing it with %1 as well may cause file conflicts.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De map hoort bij Dropbox. Als u deze ook met %1 synchroniseert, kunnen er bestandsconflicten ontstaan.</translation>
     </message>
     <message>
@@ -1921,62 +2422,79 @@
     </message>
     <message>
         <source>Tutorial of %1</source>
+        <extracomment>Screen reader: names the tutorial; %1 is a product name.</extracomment>
         <translation>Zelfstudie voor %1</translation>
     </message>
     <message>
         <source>The Ferrylink ID does not exist, or %1 is not running on the hub.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De Ferrylink-ID bestaat niet of %1 wordt niet uitgevoerd op de hub.</translation>
     </message>
     <message>
         <source>Only shared folders that have been enabled in %1 are listed here.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Hier worden alleen gedeelde mappen vermeld die in %1 zijn ingeschakeld.</translation>
     </message>
     <message>
         <source>Start %1 when I sign in to this computer</source>
+        <extracomment>Check box of the general options; %1 is a product name.</extracomment>
         <translation>%1 starten wanneer ik me bij deze computer aanmeld</translation>
     </message>
     <message>
         <source>%1 is initializing...</source>
+        <extracomment>Status, label of the start-up dialog; %1 is the product name; fixed.</extracomment>
         <translation>%1 is bezig met initialisatie...</translation>
     </message>
     <message>
         <source>The hub and %1 cannot communicate. Please update both to the latest version.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De hub en %1 kunnen niet communiceren. Werk beide bij naar de nieuwste versie.</translation>
     </message>
     <message>
         <source>This version of %1 is too old for the hub. Please update it.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Deze versie van %1 is te oud voor de hub. Werk deze bij.</translation>
     </message>
     <message>
         <source>Version mismatch</source>
+        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
+----------
+Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versies komen niet overeen</translation>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that %1 can continue.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De schijf is vol. Maak ruimte vrij op deze computer zodat %1 kan doorgaan.</translation>
     </message>
     <message>
         <source>%1 has encountered a problem. Please restart it.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Er is een probleem opgetreden in %1. Start de toepassing opnieuw.</translation>
     </message>
     <message>
         <source>Notifications tab</source>
+        <extracomment>Screen reader: names a tab: the tab with the notifications.</extracomment>
         <translation>Tabblad Meldingen</translation>
     </message>
     <message>
         <source>The folder is not empty. %1 will merge its files with those on the hub.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De map is niet leeg. %1 voegt de bestanden samen met die op de hub.</translation>
     </message>
     <message>
         <source>Only download changes from %1</source>
+        <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
         <translation>Alleen wijzigingen van %1 downloaden</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
+        <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
         <translation>%1 is geconfigureerd. Open uw map om aan het werk te gaan.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to Tessaly</source>
+        <extracomment>Screen reader: names a page of the tutorial.</extracomment>
         <translation>Zelfstudie, pagina 1: welkom bij Tessaly</translation>
     </message>
     <message>
@@ -1985,6 +2503,7 @@
     </message>
     <message>
         <source>Set up %1 to sync and back up the files on this computer.</source>
+        <extracomment>Message of the wizard; %1 is a product name.</extracomment>
         <translation>Configureer %1 om de bestanden op deze computer te synchroniseren en er een back-up van te maken.</translation>
     </message>
     <message>
@@ -2013,14 +2532,17 @@
     </message>
     <message>
         <source>Tutorial of Tessaly</source>
+        <extracomment>Screen reader: names the tutorial.</extracomment>
         <translation>Zelfstudie voor Tessaly</translation>
     </message>
     <message>
         <source>Tessaly</source>
+        <extracomment>Name of a product; stays as it is.</extracomment>
         <translation>Tessaly</translation>
     </message>
     <message>
         <source>Weeks</source>
+        <extracomment>Choice: a unit of time in a list, beside a field for the number (plural).</extracomment>
         <translation>Weken</translation>
     </message>
     <message>
@@ -2033,6 +2555,7 @@
     </message>
     <message>
         <source>Tessaly is initializing...</source>
+        <extracomment>Status, label of the start-up dialog.</extracomment>
         <translation>Tessaly is bezig met initialisatie...</translation>
     </message>
     <message>
@@ -2045,6 +2568,7 @@
     </message>
     <message>
         <source>Sharing permission</source>
+        <extracomment>Label beside a list of rights on a shared file.</extracomment>
         <translation>Machtiging voor delen</translation>
     </message>
     <message>
@@ -2053,10 +2577,12 @@
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
+        <extracomment>Button: opens the tutorial.</extracomment>
         <translation>De zelfstudie voor Tessaly weergeven</translation>
     </message>
     <message>
         <source>Start Tessaly when I sign in to this computer</source>
+        <extracomment>Check box of the general options.</extracomment>
         <translation>Tessaly starten wanneer ik me bij deze computer aanmeld</translation>
     </message>
     <message>
@@ -2069,6 +2595,7 @@
     </message>
     <message>
         <source>Click the tray icon at any time to see the status and change the settings.</source>
+        <extracomment>Message of the wizard&apos;s last page.</extracomment>
         <translation>Klik op elk moment op het systeemvakpictogram om de status te zien en de instellingen te wijzigen.</translation>
     </message>
     <message>
@@ -2089,10 +2616,12 @@
     </message>
     <message>
         <source>Open Tessaly</source>
+        <extracomment>Menu item in the tray menu.</extracomment>
         <translation>Tessaly openen</translation>
     </message>
     <message>
         <source>Version %1 is available. Click here to update.</source>
+        <extracomment>Message in the tray menu; %1 is a version number.</extracomment>
         <translation>Versie %1 is beschikbaar. Klik hier om bij te werken.</translation>
     </message>
     <message>
@@ -2101,14 +2630,17 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Button: empties a list or a field (verb).</extracomment>
         <translation>Wissen</translation>
     </message>
     <message>
         <source>Date and time</source>
+        <extracomment>Column head of a list.</extracomment>
         <translation>Datum en tijd</translation>
     </message>
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
+        <extracomment>Message: %1 is a number.</extracomment>
         <translation>Er is niet genoeg ruimte op deze schijf. Tessaly heeft ten minste %1 MB nodig.</translation>
     </message>
     <message>
@@ -2125,50 +2657,62 @@
     </message>
     <message>
         <source>New to Tessaly? Read the &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
+        <extracomment>Message: the link is to be kept as it is.</extracomment>
         <translation>Is Tessaly nieuw voor u? Lees dan eerst de &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;snelstartgids&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>Can comment</source>
+        <extracomment>Choice: a right on a shared file.</extracomment>
         <translation>Kan reageren</translation>
     </message>
     <message>
         <source>Hub users with the link can view</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Hubgebruikers met de link kunnen de inhoud bekijken</translation>
     </message>
     <message>
         <source>Hub users with the link can edit</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Hubgebruikers met de link kunnen de inhoud bewerken</translation>
     </message>
     <message>
         <source>Only people who have been invited can open the link</source>
+        <extracomment>Choice: who may open a sharing link (a sentence without a full stop).</extracomment>
         <translation>Alleen genodigden kunnen de link openen</translation>
     </message>
     <message>
         <source>Anyone with the link can comment</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Iedereen met de link kan reageren</translation>
     </message>
     <message>
         <source>Anyone with the link can view</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Iedereen met de link kan de inhoud bekijken</translation>
     </message>
     <message>
         <source>Hub users with the link can comment</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Hubgebruikers met de link kunnen reageren</translation>
     </message>
     <message>
         <source>Anyone with the link can edit</source>
+        <extracomment>Choice: who may open a sharing link, and what they may do (a sentence without a full stop).</extracomment>
         <translation>Iedereen met de link kan de inhoud bewerken</translation>
     </message>
     <message>
         <source>Can view</source>
+        <extracomment>Choice: a right on a shared file: open it, change nothing.</extracomment>
         <translation>Kan bekijken</translation>
     </message>
     <message>
         <source>Can manage</source>
+        <extracomment>Choice: a right on a shared folder: change it and give rights to others.</extracomment>
         <translation>Kan beheren</translation>
     </message>
     <message>
         <source>Can edit</source>
+        <extracomment>Choice: a right on a shared file.</extracomment>
         <translation>Kan bewerken</translation>
     </message>
     <message>
@@ -2177,10 +2721,12 @@
     </message>
     <message>
         <source>Invite people</source>
+        <extracomment>Button: opens a field for the names of people to share with.</extracomment>
         <translation>Personen uitnodigen</translation>
     </message>
     <message>
         <source>No access</source>
+        <extracomment>Choice: a right on a shared file: none.</extracomment>
         <translation>Geen toegang</translation>
     </message>
     <message>
@@ -2189,6 +2735,9 @@
     </message>
     <message>
         <source>Download</source>
+        <extracomment>Menu item: fetches the file (verb).
+----------
+Button: fetches the file (verb).</extracomment>
         <translation>Downloaden</translation>
     </message>
     <message>
@@ -2201,26 +2750,34 @@
     </message>
     <message>
         <source>Restore</source>
+        <extracomment>Menu item: makes an older version of a file the current one (verb).</extracomment>
         <translation>Terugzetten</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the Grida spreadsheet &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot het Grida-werkblad ‘%4’.</translation>
     </message>
     <message>
         <source>People who have the link will no longer be able to open the file.</source>
+        <extracomment>Message below the question whether to remove the link (URL).</extracomment>
         <translation>Personen die de link hebben, kunnen het bestand niet meer openen.</translation>
     </message>
     <message>
         <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s; a Grida spreadsheet is a whole file, not one sheet.</extracomment>
         <translation>%1 heeft het Grida-werkblad ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>No data</source>
+        <extracomment>Status: stands in place of an empty list.</extracomment>
         <translation>Geen gegevens</translation>
     </message>
     <message>
         <source>Share</source>
+        <extracomment>Button: opens the page on which an item is shared (verb).
+----------
+Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Delen</translation>
     </message>
     <message>
@@ -2233,42 +2790,52 @@
     </message>
     <message>
         <source>Weekends</source>
+        <extracomment>Choice of a list of days on which a backup runs: Saturday and Sunday.</extracomment>
         <translation>Weekend</translation>
     </message>
     <message>
         <source>Hub users</source>
+        <extracomment>Choice: who may open a sharing link: everyone who has an account on the hub.</extracomment>
         <translation>Hubgebruikers</translation>
     </message>
     <message>
         <source>My Quay</source>
+        <extracomment>Name of the user&apos;s folder; stays as it is.</extracomment>
         <translation>My Quay</translation>
     </message>
     <message>
         <source>Invited people only</source>
+        <extracomment>Choice: who may open a sharing link.</extracomment>
         <translation>Alleen genodigden</translation>
     </message>
     <message>
         <source>Display</source>
+        <extracomment>Tab of the settings: how things look.</extracomment>
         <translation>Weergave</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
+        <extracomment>Choice: who may open a sharing link.</extracomment>
         <translation>Iedereen met de link</translation>
     </message>
     <message>
         <source>Set an expiration date</source>
+        <extracomment>Check box of a sharing link.</extracomment>
         <translation>Een vervaldatum instellen</translation>
     </message>
     <message>
         <source>Users and groups</source>
+        <extracomment>Heading of a list: those that an item is shared with.</extracomment>
         <translation>Gebruikers en groepen</translation>
     </message>
     <message>
         <source>Kelvane Quay</source>
+        <extracomment>Name of a product; stays as it is.</extracomment>
         <translation>Kelvane Quay</translation>
     </message>
     <message>
         <source>Show the synced folders in the sidebar of the file manager</source>
+        <extracomment>Check box of the display settings.</extracomment>
         <translation>De gesynchroniseerde mappen in de zijbalk van bestandsbeheer weergeven</translation>
     </message>
     <message>
@@ -2277,14 +2844,17 @@
     </message>
     <message>
         <source>Your computer</source>
+        <extracomment>Label below a picture of a tutorial page.</extracomment>
         <translation>Uw computer</translation>
     </message>
     <message>
         <source>All your files, everywhere</source>
+        <extracomment>Heading of a tutorial page, alone (no verb).</extracomment>
         <translation>Al uw bestanden, overal</translation>
     </message>
     <message>
         <source>Save space with on-demand sync</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
         <translation>Ruimte besparen met synchronisatie op aanvraag</translation>
     </message>
     <message>
@@ -2293,62 +2863,79 @@
     </message>
     <message>
         <source>Online only</source>
+        <extracomment>Label below a picture of a tutorial page: an icon that says that the file lies on the hub alone.</extracomment>
         <translation>Alleen online</translation>
     </message>
     <message>
         <source>Available on this computer</source>
+        <extracomment>Label below a picture of a tutorial page: an icon that says that the file was downloaded.</extracomment>
         <translation>Beschikbaar op deze computer</translation>
     </message>
     <message>
         <source>mentioned you in</source>
+        <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann mentioned you in Plan.txt&quot;.</extracomment>
         <translation>heeft u genoemd in</translation>
     </message>
     <message>
         <source>requested access to</source>
+        <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann requested access to Plan.txt&quot;.</extracomment>
         <translation>vraagt toegang tot</translation>
     </message>
     <message>
         <source>%1 shared the file &quot;%2&quot; with you.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
         <translation>%1 heeft het bestand ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>shared with you</source>
+        <extracomment>Fragment in a list of notifications, after a person&apos;s name and before a file&apos;s: &quot;Ann shared with you Plan.txt&quot;.</extracomment>
         <translation>heeft met u gedeeld:</translation>
     </message>
     <message>
         <source>Shared</source>
+        <extracomment>Choice of a filter of notifications: those about files that were shared with the user.</extracomment>
         <translation>Gedeeld</translation>
     </message>
     <message>
         <source>Access request</source>
+        <extracomment>Choice of a filter of notifications: someone asks for access (noun).</extracomment>
         <translation>Toegangsverzoek</translation>
     </message>
     <message>
         <source>Comments</source>
+        <extracomment>Choice of a filter of notifications (noun, plural).</extracomment>
         <translation>Reacties</translation>
     </message>
     <message>
         <source>Shared with me</source>
+        <extracomment>Heading of a page: files that others share with the user.</extracomment>
         <translation>Gedeeld met mij</translation>
     </message>
     <message>
         <source>Mentions</source>
+        <extracomment>Choice of a filter of notifications: someone wrote the user&apos;s name in a comment (noun, plural).</extracomment>
         <translation>Vermeldingen</translation>
     </message>
     <message>
         <source>Upload only</source>
+        <extracomment>Choice of the sync direction: from this computer to the hub alone, nothing is downloaded.</extracomment>
         <translation>Alleen uploaden</translation>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
+        <extracomment>Check box of a task&apos;s settings.
+----------
+Check box of a task&apos;s filters.</extracomment>
         <translation>Bestanden op de hub behouden wanneer ze van deze computer worden verwijderd</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button: puts off what was offered.</extracomment>
         <translation>Later</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
+        <extracomment>Message: %1 is a file name.</extracomment>
         <translation>‘%1’ is gedownload.</translation>
     </message>
     <message>
@@ -2357,6 +2944,7 @@
     </message>
     <message>
         <source>Your files are also available in the &lt;a href=&quot;%1&quot;&gt;web portal&lt;/a&gt;.</source>
+        <extracomment>Message: %1 is the address in the link; keep the tag as it is.</extracomment>
         <translation>Uw bestanden zijn ook beschikbaar in het &lt;a href=&quot;%1&quot;&gt;webportaal&lt;/a&gt;.</translation>
     </message>
     <message>
@@ -2369,26 +2957,32 @@
     </message>
     <message>
         <source>Enable later</source>
+        <extracomment>Choice of the wizard, second of two: files that others share with the user.</extracomment>
         <translation>Later inschakelen</translation>
     </message>
     <message>
         <source>Enable now</source>
+        <extracomment>Choice of the wizard, first of two: files that others share with the user.</extracomment>
         <translation>Nu inschakelen</translation>
     </message>
     <message>
         <source>Files shared with you</source>
+        <extracomment>Heading of a wizard page.</extracomment>
         <translation>Bestanden die met u zijn gedeeld</translation>
     </message>
     <message>
         <source>Create a sync task</source>
+        <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
         <translation>Een synchronisatietaak maken</translation>
     </message>
     <message>
         <source>My files and team folders</source>
+        <extracomment>Choice of the wizard: which files a new task syncs (team: a group of people).</extracomment>
         <translation>Mijn bestanden en teammappen</translation>
     </message>
     <message>
         <source>Files shared with me</source>
+        <extracomment>Choice of the wizard: which files a new task syncs.</extracomment>
         <translation>Bestanden die met mij zijn gedeeld</translation>
     </message>
     <message>
@@ -2401,6 +2995,7 @@
     </message>
     <message>
         <source>Never miss a change</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
         <translation>Nooit meer een wijziging missen</translation>
     </message>
     <message>
@@ -2409,10 +3004,12 @@
     </message>
     <message>
         <source>Team folder</source>
+        <extracomment>Choice: a type of folder on the hub (team: a group of people).</extracomment>
         <translation>Teammap</translation>
     </message>
     <message>
         <source>Only download changes from Tessaly Server</source>
+        <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
         <translation>Alleen wijzigingen van Tessaly Server downloaden</translation>
     </message>
     <message>
@@ -2425,6 +3022,7 @@
     </message>
     <message>
         <source>Share in seconds</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb: within seconds).</extracomment>
         <translation>In een paar tellen delen</translation>
     </message>
     <message>
@@ -2433,94 +3031,119 @@
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the Pictra presentation &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot de Pictra-presentatie ‘%4’.</translation>
     </message>
     <message>
         <source>%1 shared the folder &quot;%2&quot; with you.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the folder&apos;s.</extracomment>
         <translation>%1 heeft de map ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the folder &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the folder&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot de map ‘%4’.</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the file &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot het bestand ‘%4’.</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the Folia document &quot;%4&quot;.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
         <translation>%1 (%2) vraagt toegang (%3) tot het Folia-document ‘%4’.</translation>
     </message>
     <message>
         <source>%1 shared the Folia document &quot;%2&quot; with you.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
         <translation>%1 heeft het Folia-document ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>%1 shared the Pictra presentation &quot;%2&quot; with you.</source>
+        <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
         <translation>%1 heeft de Pictra-presentatie ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>Privacy settings</source>
+        <extracomment>Heading of a page: who may see what.</extracomment>
         <translation>Privacyinstellingen</translation>
     </message>
     <message>
         <source>Protect with a password</source>
+        <extracomment>Check box of a sharing link.</extracomment>
         <translation>Beveiligen met een wachtwoord</translation>
     </message>
     <message>
         <source>Weekdays</source>
+        <extracomment>Choice of a list of days on which a backup runs: Monday to Friday.</extracomment>
         <translation>Werkdagen</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; will be created for the files that others share with you.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>Voor de bestanden die anderen met u delen, wordt een map met de naam ‘%1’ gemaakt.</translation>
     </message>
     <message>
         <source>Always keep on this computer</source>
+        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
+----------
+Menu item of the file manager: the files are downloaded and stay.</extracomment>
         <translation>Altijd op deze computer behouden</translation>
     </message>
     <message>
         <source>Any</source>
+        <extracomment>Choice of a filter: no type is left out (belongs to &quot;type&quot;).</extracomment>
         <translation>Alle</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Column head of the list of files that are being transferred (noun).</extracomment>
         <translation>Voortgang</translation>
     </message>
     <message>
         <source>Connecting...</source>
+        <extracomment>Status of a task.</extracomment>
         <translation>Verbinding maken...</translation>
     </message>
     <message>
         <source>Sync task</source>
+        <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
         <translation>Synchronisatietaak</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
+        <extracomment>Message of a choice.</extracomment>
         <translation>Er wordt een back-up van bestanden gemaakt zodra ze worden gewijzigd.</translation>
     </message>
     <message>
         <source>Filter</source>
+        <extracomment>Label beside a field: the list below shows what matches (noun).</extracomment>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Files are backed up at the times that you set.</source>
+        <extracomment>Message of a choice.</extracomment>
         <translation>Er wordt een back-up van bestanden gemaakt op de tijden die u instelt.</translation>
     </message>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
+        <extracomment>Message: %1 is a number that counts down.</extracomment>
         <translation>De back-up is voltooid. De computer wordt over %1 seconden afgesloten.</translation>
     </message>
     <message>
         <source>Backup task</source>
+        <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
         <translation>Back-uptaak</translation>
     </message>
     <message>
         <source>Run on the following days</source>
+        <extracomment>Label above a row of check boxes with the days of the week (not dates).</extracomment>
         <translation>Op de volgende dagen uitvoeren</translation>
     </message>
     <message>
         <source>Connect to the hub</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>Verbinding maken met de hub</translation>
     </message>
     <message>
@@ -2529,50 +3152,62 @@
     </message>
     <message>
         <source>Manual: the backup runs only when you start it.</source>
+        <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
         <translation>Handmatig: de back-up wordt alleen uitgevoerd wanneer u deze start.</translation>
     </message>
     <message>
         <source>Start time</source>
+        <extracomment>Label beside a field for a time of day: when a backup starts (noun).</extracomment>
         <translation>Begintijd</translation>
     </message>
     <message>
         <source>Frequency</source>
+        <extracomment>Label beside a list: how often a backup runs (noun).</extracomment>
         <translation>Frequentie</translation>
     </message>
     <message>
         <source>Last end time</source>
+        <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
         <translation>Laatste eindtijd</translation>
     </message>
     <message>
         <source>Last run time</source>
+        <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
         <translation>Laatste uitvoertijd</translation>
     </message>
     <message>
         <source>Commenter</source>
+        <extracomment>Choice: a role (noun, a person): may open and comment; beside Viewer, Previewer, Editor, Manager.</extracomment>
         <translation>Reageerder</translation>
     </message>
     <message>
         <source>Change who can open this link</source>
+        <extracomment>Tooltip of the button beside a sharing link (URL).</extracomment>
         <translation>Wijzigen wie deze link kan openen</translation>
     </message>
     <message>
         <source>Last upload: %1</source>
+        <extracomment>Status of a task; %1 is a date and time.</extracomment>
         <translation>Laatste upload: %1</translation>
     </message>
     <message>
         <source>Task settings</source>
+        <extracomment>Heading of a page.</extracomment>
         <translation>Taakinstellingen</translation>
     </message>
     <message>
         <source>Continuous: files are backed up whenever they change.</source>
+        <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
         <translation>Continu: er wordt een back-up van bestanden gemaakt wanneer ze worden gewijzigd.</translation>
     </message>
     <message>
         <source>Open in file manager</source>
+        <extracomment>Menu item: opens the folder in the system&apos;s program for files.</extracomment>
         <translation>Openen in bestandsbeheer</translation>
     </message>
     <message>
         <source>The time is on the following day.</source>
+        <extracomment>Message below an end time that is earlier in the day than the start time.</extracomment>
         <translation>De tijd valt op de volgende dag.</translation>
     </message>
     <message>
@@ -2581,34 +3216,42 @@
     </message>
     <message>
         <source>Backup destination</source>
+        <extracomment>Label beside the path of the folder on the hub that backups are stored in (a place, not a purpose).</extracomment>
         <translation>Back-upbestemming</translation>
     </message>
     <message>
         <source>Files are backed up when you click Back up now.</source>
+        <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
         <translation>Er wordt een back-up van bestanden gemaakt wanneer u op ‘Nu back-up maken’ klikt.</translation>
     </message>
     <message>
         <source>Allow downloads</source>
+        <extracomment>Check box of a sharing link.</extracomment>
         <translation>Downloads toestaan</translation>
     </message>
     <message>
         <source>Scheduled: the backup runs at the times that you set.</source>
+        <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
         <translation>Gepland: de back-up wordt uitgevoerd op de tijden die u instelt.</translation>
     </message>
     <message>
         <source>Backup schedule</source>
+        <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
         <translation>Back-upschema</translation>
     </message>
     <message>
         <source>Manager</source>
+        <extracomment>Choice: a role (noun, a person): may change everything and give rights; beside Viewer, Previewer, Commenter, Editor.</extracomment>
         <translation>Manager</translation>
     </message>
     <message>
         <source>Previewer</source>
+        <extracomment>Choice: a role (noun, a person): may look at a file without downloading it; beside Viewer, Commenter, Editor, Manager.</extracomment>
         <translation>Alleen voorbeeld</translation>
     </message>
     <message>
         <source>Create a backup task</source>
+        <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
         <translation>Een back-uptaak maken</translation>
     </message>
     <message>
@@ -2617,6 +3260,7 @@
     </message>
     <message>
         <source>Sync temporary files</source>
+        <extracomment>Check box of a task&apos;s settings (verb: temporary files are synced too).</extracomment>
         <translation>Tijdelijke bestanden synchroniseren</translation>
     </message>
     <message>
@@ -2633,14 +3277,17 @@
     </message>
     <message>
         <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
+        <extracomment>Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.</extracomment>
         <translation>Back-up naar ‘%3’ gemaakt op %4, bestanden: %1 (%2)</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Heading of the page with what was transferred (noun).</extracomment>
         <translation>Geschiedenis</translation>
     </message>
     <message>
         <source>Start backing up</source>
+        <extracomment>Button of the first page: sets up a backup task.</extracomment>
         <translation>Back-up starten</translation>
     </message>
     <message>
@@ -2649,26 +3296,32 @@
     </message>
     <message>
         <source>No folder selected</source>
+        <extracomment>Status: stands in place of a path.</extracomment>
         <translation>Geen map geselecteerd</translation>
     </message>
     <message>
         <source>Free up space</source>
+        <extracomment>Menu item of the file manager: the files stay on the hub alone, so that they take no space here.</extracomment>
         <translation>Ruimte vrijmaken</translation>
     </message>
     <message>
         <source>Stop keeping on this computer</source>
+        <extracomment>Menu item of the file manager: the opposite of &quot;Always keep on this computer&quot;.</extracomment>
         <translation>Niet meer op deze computer behouden</translation>
     </message>
     <message>
         <source>Selected days</source>
+        <extracomment>Choice of a list of days on which a backup runs: days of the week that the user chooses.</extracomment>
         <translation>Geselecteerde dagen</translation>
     </message>
     <message>
         <source>When the backup is done</source>
+        <extracomment>Label before a list: what the computer does then, such as &quot;Shut down the computer&quot;.</extracomment>
         <translation>Wanneer de back-up klaar is</translation>
     </message>
     <message>
         <source>Select a folder on &quot;%1&quot;.</source>
+        <extracomment>Message: %1 is the computer&apos;s name.</extracomment>
         <translation>Selecteer een map op ‘%1’.</translation>
     </message>
     <message>
@@ -2677,14 +3330,17 @@
     </message>
     <message>
         <source>Every</source>
+        <extracomment>Fragment before a number field and its unit: &quot;Every [4] hours&quot;.</extracomment>
         <translation>Elke</translation>
     </message>
     <message>
         <source>Skip files and folders whose names start with a period</source>
+        <extracomment>Check box of a task&apos;s filters (period: the sign &quot;.&quot; before a name).</extracomment>
         <translation>Bestanden en mappen overslaan waarvan de naam met een punt begint</translation>
     </message>
     <message>
         <source>Start syncing</source>
+        <extracomment>Button of the first page: sets up a sync task.</extracomment>
         <translation>Synchronisatie starten</translation>
     </message>
     <message>
@@ -2709,6 +3365,7 @@
     </message>
     <message>
         <source>Please update Tessaly to version %1 or later.</source>
+        <extracomment>Message: %1 is a version number.</extracomment>
         <translation>Werk Tessaly bij naar versie %1 of hoger.</translation>
     </message>
     <message>
@@ -2733,6 +3390,7 @@
     </message>
     <message>
         <source>Not backed up yet</source>
+        <extracomment>Status of a task.</extracomment>
         <translation>Nog geen back-up gemaakt</translation>
     </message>
     <message>
@@ -2741,6 +3399,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://help.kelvane.example/client&quot;&gt;Learn more&lt;/a&gt;</source>
+        <extracomment>Link: opens a page of the help; keep the tag as it is.</extracomment>
         <translation>&lt;a href=&quot;https://help.kelvane.example/client&quot;&gt;Meer informatie&lt;/a&gt;</translation>
     </message>
     <message>
@@ -2749,10 +3408,12 @@
     </message>
     <message>
         <source>Run missed backups as soon as possible</source>
+        <extracomment>Check box of a backup&apos;s schedule.</extracomment>
         <translation>Gemiste back-ups zo snel mogelijk uitvoeren</translation>
     </message>
     <message>
         <source>Choose a folder on each side.</source>
+        <extracomment>Message of the wizard; the sides are this computer and the hub.</extracomment>
         <translation>Kies aan elke kant een map.</translation>
     </message>
     <message>
@@ -2765,6 +3426,7 @@
     </message>
     <message>
         <source>Path</source>
+        <extracomment>Column head in the wizard&apos;s summary: the place of a folder.</extracomment>
         <translation>Pad</translation>
     </message>
     <message>
@@ -2785,10 +3447,12 @@
     </message>
     <message>
         <source>Some of the selected folders no longer exist. Clear them to continue.</source>
+        <extracomment>Message: to clear is to take the check mark away.</extracomment>
         <translation>Sommige geselecteerde mappen bestaan niet meer. Hef de selectie ervan op om door te gaan.</translation>
     </message>
     <message>
         <source>Sync direction mismatch</source>
+        <extracomment>Heading of the state of a task: it may upload alone or download alone.</extracomment>
         <translation>Synchronisatierichting komt niet overeen</translation>
     </message>
     <message>
@@ -2797,6 +3461,7 @@
     </message>
     <message>
         <source>Choose a type of task</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>Kies een type taak</translation>
     </message>
     <message>
@@ -2813,6 +3478,7 @@
     </message>
     <message>
         <source>Set up your sync folders</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>Uw synchronisatiemappen configureren</translation>
     </message>
     <message>
@@ -2833,18 +3499,22 @@
     </message>
     <message>
         <source>Shared folder not mounted</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Gedeelde map niet aangekoppeld</translation>
     </message>
     <message>
         <source>Only upload changes to %1</source>
+        <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
         <translation>Alleen wijzigingen naar %1 uploaden</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
+        <extracomment>Check box of a page of the settings; the user speaks.</extracomment>
         <translation>De bestanden synchroniseren die anderen met mij delen</translation>
     </message>
     <message>
         <source>Back up temporary files</source>
+        <extracomment>Check box of a backup task (verb: temporary files are backed up too).</extracomment>
         <translation>Back-up van tijdelijke bestanden maken</translation>
     </message>
     <message>
@@ -2853,30 +3523,37 @@
     </message>
     <message>
         <source>Web portal</source>
+        <extracomment>Label beside the address of the hub&apos;s web pages.</extracomment>
         <translation>Webportaal</translation>
     </message>
     <message>
         <source>Storage quota used up</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Opslagquotum opgebruikt</translation>
     </message>
     <message>
         <source>Home folder disabled</source>
+        <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
         <translation>Thuismap uitgeschakeld</translation>
     </message>
     <message>
         <source>Mon</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>ma</translation>
     </message>
     <message>
         <source>Thu</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>do</translation>
     </message>
     <message>
         <source>Sat</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>za</translation>
     </message>
     <message>
         <source>Local folder not found</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Lokale map niet gevonden</translation>
     </message>
     <message>
@@ -2893,10 +3570,12 @@
     </message>
     <message>
         <source>Drive not connected</source>
+        <extracomment>Heading of the state of a task: a disk drive of this computer.</extracomment>
         <translation>Station niet aangesloten</translation>
     </message>
     <message>
         <source>Almost done! Your files will soon be available in %1.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Bijna klaar! Uw bestanden zijn binnenkort beschikbaar in %1.</translation>
     </message>
     <message>
@@ -2905,62 +3584,77 @@
     </message>
     <message>
         <source>Fri</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>vr</translation>
     </message>
     <message>
         <source>Role</source>
+        <extracomment>Column head of the list of people that an item is shared with: Viewer, Editor and so on.</extracomment>
         <translation>Rol</translation>
     </message>
     <message>
         <source>Sun</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>zo</translation>
     </message>
     <message>
         <source>Tue</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>di</translation>
     </message>
     <message>
         <source>Wed</source>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>wo</translation>
     </message>
     <message>
         <source>Friday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>vrijdag</translation>
     </message>
     <message>
         <source>Monday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>maandag</translation>
     </message>
     <message>
         <source>Saturday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>zaterdag</translation>
     </message>
     <message>
         <source>Sunday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>zondag</translation>
     </message>
     <message>
         <source>Thursday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>donderdag</translation>
     </message>
     <message>
         <source>Tuesday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>dinsdag</translation>
     </message>
     <message>
         <source>Wednesday</source>
+        <extracomment>Choice: a day of the week.</extracomment>
         <translation>woensdag</translation>
     </message>
     <message>
         <source>I do not accept the license agreement</source>
+        <extracomment>Choice of the installer, second of two; the user speaks.</extracomment>
         <translation>Ik ga niet akkoord met de licentieovereenkomst</translation>
     </message>
     <message>
         <source>Disk full</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Schijf vol</translation>
     </message>
     <message>
         <source>Initialization failed</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Initialisatie mislukt</translation>
     </message>
     <message>
@@ -2969,6 +3663,7 @@
     </message>
     <message>
         <source>Shared folder quota used up</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Quotum van gedeelde map opgebruikt</translation>
     </message>
     <message>
@@ -2977,6 +3672,7 @@
     </message>
     <message>
         <source>Remote folder not found</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Externe map niet gevonden</translation>
     </message>
     <message>
@@ -2985,26 +3681,32 @@
     </message>
     <message>
         <source>Link permission</source>
+        <extracomment>Label beside a list: what people with the link (URL) may do.</extracomment>
         <translation>Linkmachtiging</translation>
     </message>
     <message>
         <source>Next backup: %1</source>
+        <extracomment>Status of a task; %1 is a date and time.</extracomment>
         <translation>Volgende back-up: %1</translation>
     </message>
     <message>
         <source>Backup plan</source>
+        <extracomment>Label of a task: on which days and at which times, as a whole; not the same as &quot;Backup schedule&quot;.</extracomment>
         <translation>Back-upplan</translation>
     </message>
     <message>
         <source>Sharing link</source>
+        <extracomment>Label above a field with a URL (noun).</extracomment>
         <translation>Link voor delen</translation>
     </message>
     <message>
         <source>Share link</source>
+        <extracomment>Button: shows the URL to an item (verb and noun: share the link).</extracomment>
         <translation>Link delen</translation>
     </message>
     <message>
         <source>Backup tasks require %1 %2 or later on the hub. The installed version is %3.</source>
+        <extracomment>Message: %1 is a product name, %2 and %3 are version numbers.</extracomment>
         <translation>Back-uptaken vereisen %1 %2 of hoger op de hub. De geïnstalleerde versie is %3.</translation>
     </message>
     <message>
@@ -3013,6 +3715,7 @@
     </message>
     <message>
         <source>Loading the shared folders...</source>
+        <extracomment>Status: stands in place of a list that is on its way.</extracomment>
         <translation>De gedeelde mappen worden geladen...</translation>
     </message>
     <message>
@@ -3029,6 +3732,7 @@
     </message>
     <message>
         <source>Click the icon of %1 in the system tray to change the settings.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Klik op het pictogram van %1 in het systeemvak om de instellingen te wijzigen.</translation>
     </message>
     <message>
@@ -3041,6 +3745,7 @@
     </message>
     <message>
         <source>Linking to the hub...</source>
+        <extracomment>Status, shown while this computer is being linked to the hub.</extracomment>
         <translation>Koppelen aan de hub...</translation>
     </message>
     <message>
@@ -3049,38 +3754,49 @@
     </message>
     <message>
         <source>Preview</source>
+        <extracomment>Choice: a right on a shared file, or the command: look at it without downloading it.</extracomment>
         <translation>Voorbeeld</translation>
     </message>
     <message>
         <source>Up to date</source>
+        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
+----------
+Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
         <translation>Up-to-date</translation>
     </message>
     <message>
         <source>Folder link</source>
+        <extracomment>Label above a field with a URL to a folder (noun).</extracomment>
         <translation>Maplink</translation>
     </message>
     <message>
         <source>Expiration date</source>
+        <extracomment>Label beside a field of a sharing link: the last day on which it may be opened.</extracomment>
         <translation>Vervaldatum</translation>
     </message>
     <message>
         <source>You are ready to work with %1.</source>
+        <extracomment>Message of the tutorial; %1 is a product name.</extracomment>
         <translation>U kunt nu met %1 aan de slag.</translation>
     </message>
     <message>
         <source>Now</source>
+        <extracomment>Status: how long ago a file changed: at this moment.</extracomment>
         <translation>Nu</translation>
     </message>
     <message>
         <source>Upload</source>
+        <extracomment>Button: sends the file to the hub (verb).</extracomment>
         <translation>Uploaden</translation>
     </message>
     <message>
         <source>Kelvane Quay Server</source>
+        <extracomment>Name of a product; stays as it is.</extracomment>
         <translation>Kelvane Quay Server</translation>
     </message>
     <message>
         <source>Please update %1 to version %2 or later.</source>
+        <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
         <translation>Werk %1 bij naar versie %2 of hoger.</translation>
     </message>
     <message>
@@ -3089,26 +3805,32 @@
     </message>
     <message>
         <source>Open the web portal of %1</source>
+        <extracomment>Screen reader: names a button; %1 is a product name.</extracomment>
         <translation>Het webportaal van %1 openen</translation>
     </message>
     <message>
         <source>Kelvane Quay Client</source>
+        <extracomment>Name of the product, %1 of many texts; fixed.</extracomment>
         <translation>Kelvane Quay Client</translation>
     </message>
     <message>
         <source>The backup has stopped because this version of %1 is too old for the hub.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>De back-up is gestopt omdat deze versie van %1 te oud is voor de hub.</translation>
     </message>
     <message>
         <source>Please ask your administrator to update %1 on the hub.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Vraag uw beheerder om %1 op de hub bij te werken.</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; will be created at this location.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>Op deze locatie wordt een map met de naam ‘%1’ gemaakt.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created on this computer.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>De map ‘%1’ kan niet op deze computer worden gemaakt.</translation>
     </message>
     <message>
@@ -3117,6 +3839,7 @@
     </message>
     <message>
         <source>Open the Kelvane Quay web portal</source>
+        <extracomment>Menu item in the tray menu.</extracomment>
         <translation>Het webportaal van Kelvane Quay openen</translation>
     </message>
     <message>
@@ -3125,14 +3848,17 @@
     </message>
     <message>
         <source>Tutorial page 1: welcome to %1</source>
+        <extracomment>Screen reader: names a page of the tutorial; %1 is a product name.</extracomment>
         <translation>Zelfstudie, pagina 1: welkom bij %1</translation>
     </message>
     <message>
         <source>Task type</source>
+        <extracomment>Column head of a list: sync or backup (noun).</extracomment>
         <translation>Taaktype</translation>
     </message>
     <message>
         <source>Select</source>
+        <extracomment>Button: takes what was chosen in a list (verb).</extracomment>
         <translation>Selecteren</translation>
     </message>
     <message>
@@ -3141,22 +3867,27 @@
     </message>
     <message>
         <source>Enable on-demand sync</source>
+        <extracomment>Check box of a task&apos;s settings.</extracomment>
         <translation>Synchronisatie op aanvraag inschakelen</translation>
     </message>
     <message>
         <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>De map ‘%1’ voor synchronisatie op aanvraag ontbreekt. Configureer de taak opnieuw.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
+        <extracomment>Heading of a part of the settings: a feature&apos;s name (noun).</extracomment>
         <translation>Synchronisatie op aanvraag</translation>
     </message>
     <message>
         <source>Try on-demand sync</source>
+        <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
         <translation>Probeer synchronisatie op aanvraag</translation>
     </message>
     <message>
         <source>Comment</source>
+        <extracomment>Choice: a right on a shared file (verb), beside Preview and Edit.</extracomment>
         <translation>Reageren</translation>
     </message>
     <message>
@@ -3173,22 +3904,31 @@
     </message>
     <message>
         <source>Enter a file name or extension, such as &quot;*.tmp&quot;</source>
+        <extracomment>Tooltip of a cell of the list of excluded files; &quot;*.tmp&quot; is an example and stays.</extracomment>
         <translation>Voer een bestandsnaam of extensie in, zoals ‘*.tmp’</translation>
     </message>
     <message>
         <source>Roles and permissions</source>
+        <extracomment>Heading of a page that explains Viewer, Editor and so on.</extracomment>
         <translation>Rollen en machtigingen</translation>
     </message>
     <message>
         <source>Edit</source>
+        <extracomment>Button: changes an entry (verb); also a right on a shared file.</extracomment>
         <translation>Bewerken</translation>
     </message>
     <message>
         <source>Space freed up</source>
+        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
+----------
+Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
         <translation>Ruimte vrijgemaakt</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
+        <extracomment>Event: what happened to the file: it was downloaded and stays.
+----------
+Event in the history: the file was downloaded and stays.</extracomment>
         <translation>Beschikbaar gemaakt op deze computer</translation>
     </message>
     <message>
@@ -3197,10 +3937,12 @@
     </message>
     <message>
         <source>Keep files online until you need them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;How on-demand sync works&lt;/a&gt;</source>
+        <extracomment>Message: the link is to be kept as it is.</extracomment>
         <translation>Houd bestanden online totdat u ze nodig hebt. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Hoe synchronisatie op aanvraag werkt&lt;/a&gt;</translation>
     </message>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
+        <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
         <translation>Er is niet genoeg ruimte op deze schijf. %1 heeft ten minste %2 MB nodig.</translation>
     </message>
     <message>
@@ -3217,6 +3959,7 @@
     </message>
     <message>
         <source>Enable on-demand sync for this task</source>
+        <extracomment>Check box of the wizard.</extracomment>
         <translation>Synchronisatie op aanvraag voor deze taak inschakelen</translation>
     </message>
     <message>
@@ -3233,6 +3976,7 @@
     </message>
     <message>
         <source>Everything that others share with you, in one folder</source>
+        <extracomment>Heading of a wizard page, below its title.</extracomment>
         <translation>Alles wat anderen met u delen, in één map</translation>
     </message>
     <message>
@@ -3241,6 +3985,7 @@
     </message>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
+        <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
         <translation>Deze client vereist %1 %2 of hoger op de hub. Vraag uw beheerder om een update.</translation>
     </message>
     <message>
@@ -3253,14 +3998,17 @@
     </message>
     <message>
         <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>%1 kan niet communiceren met het pakket op de hub. Werk beide bij naar de nieuwste versie.</translation>
     </message>
     <message>
         <source>Only you can open the link</source>
+        <extracomment>Choice: who may open a sharing link (a sentence without a full stop).</extracomment>
         <translation>Alleen u kunt de link openen</translation>
     </message>
     <message>
         <source>Continue anyway</source>
+        <extracomment>Button in a warning about the certificate: goes on in spite of it.</extracomment>
         <translation>Toch doorgaan</translation>
     </message>
     <message>
@@ -3273,10 +4021,12 @@
     </message>
     <message>
         <source>Start the tour</source>
+        <extracomment>Button on the first page of the tutorial.</extracomment>
         <translation>Rondleiding starten</translation>
     </message>
     <message>
         <source>New to %1? Read the &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
+        <extracomment>Message: %1 is a product name; keep the link as it is.</extracomment>
         <translation>Is %1 nieuw voor u? Lees dan eerst de &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;snelstartgids&lt;/a&gt;.</translation>
     </message>
     <message>
@@ -3289,10 +4039,12 @@
     </message>
     <message>
         <source>Welcome to Tessaly</source>
+        <extracomment>Heading of the first page of the tutorial.</extracomment>
         <translation>Welkom bij Tessaly</translation>
     </message>
     <message>
         <source>Share with others</source>
+        <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
         <translation>Delen met anderen</translation>
     </message>
     <message>
@@ -3305,18 +4057,22 @@
     </message>
     <message>
         <source>%1 file is being processed</source>
+        <extracomment>Status of a task; %1 is always 1.</extracomment>
         <translation>%1 bestand wordt verwerkt</translation>
     </message>
     <message>
         <source>%1 and the client have different versions. Please update both to the same version.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>%1 en de client hebben verschillende versies. Werk beide bij naar dezelfde versie.</translation>
     </message>
     <message>
         <source>Files being processed: %1</source>
+        <extracomment>Status of a task; %1 is any number.</extracomment>
         <translation>Bestanden in verwerking: %1</translation>
     </message>
     <message>
         <source>%1 files are being processed</source>
+        <extracomment>Status of a task; %1 is a number, more than one.</extracomment>
         <translation>%1 bestanden worden verwerkt</translation>
     </message>
     <message>
@@ -3329,10 +4085,12 @@
     </message>
     <message>
         <source>Your home folder uses %1 of %2, and the shared folders use %3 of %4.</source>
+        <extracomment>Message: %1 to %4 are sizes with their units: used, of, used, of.</extracomment>
         <translation>Uw thuismap gebruikt %1 van %2 en de gedeelde mappen gebruiken %3 van %4.</translation>
     </message>
     <message>
         <source>The quota of the shared folder &quot;%1&quot; is used up.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>Het quotum van de gedeelde map ‘%1’ is opgebruikt.</translation>
     </message>
     <message>
@@ -3349,6 +4107,7 @@
     </message>
     <message>
         <source>Choose what to back up</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>Kies waarvan u een back-up wilt maken</translation>
     </message>
     <message>
@@ -3357,6 +4116,7 @@
     </message>
     <message>
         <source>Syncing...</source>
+        <extracomment>Status of a task.</extracomment>
         <translation>Synchroniseren...</translation>
     </message>
     <message>
@@ -3369,18 +4129,22 @@
     </message>
     <message>
         <source>Account disabled</source>
+        <extracomment>Status, short, of a task: the administrator has disabled the user&apos;s account.</extracomment>
         <translation>Account uitgeschakeld</translation>
     </message>
     <message>
         <source>Show icons on files that are excluded by a filter</source>
+        <extracomment>Check box of the general options.</extracomment>
         <translation>Pictogrammen weergeven op bestanden die door een filter zijn uitgesloten</translation>
     </message>
     <message>
         <source>Storage</source>
+        <extracomment>Tab of the hub&apos;s page: space and quotas.</extracomment>
         <translation>Opslag</translation>
     </message>
     <message>
         <source>Dialog box</source>
+        <extracomment>Screen reader: names a window that asks.</extracomment>
         <translation>Dialoogvenster</translation>
     </message>
     <message>
@@ -3397,14 +4161,17 @@
     </message>
     <message>
         <source>You no longer have permission to access the shared folder &quot;%1&quot;.</source>
+        <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
         <translation>U hebt geen machtiging meer om de gedeelde map ‘%1’ te openen.</translation>
     </message>
     <message>
         <source>Processing &quot;%1&quot;...</source>
+        <extracomment>Status of a task; %1 is a file name.</extracomment>
         <translation>‘%1’ wordt verwerkt...</translation>
     </message>
     <message>
         <source>Days</source>
+        <extracomment>Choice: a unit of time in a list, beside a field for the number (plural).</extracomment>
         <translation>Dagen</translation>
     </message>
     <message>
@@ -3413,14 +4180,17 @@
     </message>
     <message>
         <source>Operation</source>
+        <extracomment>Column head of a list: what can be done with an entry (noun).</extracomment>
         <translation>Bewerking</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist.</source>
+        <extracomment>Message: %1 is a path.</extracomment>
         <translation>De map ‘%1’ bestaat niet.</translation>
     </message>
     <message>
         <source>Shut down the computer</source>
+        <extracomment>Choice of a list after &quot;When the backup is done&quot;: what the computer does then (verb).</extracomment>
         <translation>De computer afsluiten</translation>
     </message>
     <message>
@@ -3437,14 +4207,19 @@
     </message>
     <message>
         <source>Back up %1 times a day</source>
+        <extracomment>Choice: how often a backup runs; %1 is a number, more than one.</extracomment>
         <translation>%1 keer per dag een back-up maken</translation>
     </message>
     <message>
         <source>times</source>
+        <extracomment>Fragment, unit after a number field: &quot;[3] times&quot;, a day.</extracomment>
         <translation>keer</translation>
     </message>
     <message>
         <source>Backup mode</source>
+        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
+----------
+Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Back-upmodus</translation>
     </message>
     <message>
@@ -3461,34 +4236,42 @@
     </message>
     <message>
         <source>Last backup: %1</source>
+        <extracomment>Status of a task; %1 is a date and time.</extracomment>
         <translation>Laatste back-up: %1</translation>
     </message>
     <message>
         <source>Every day</source>
+        <extracomment>Choice: how often a backup runs.</extracomment>
         <translation>Elke dag</translation>
     </message>
     <message>
         <source>Manual backup</source>
+        <extracomment>Choice of the backup mode (noun): runs when the user starts it.</extracomment>
         <translation>Handmatige back-up</translation>
     </message>
     <message>
         <source>Once a day</source>
+        <extracomment>Choice: how often a backup runs.</extracomment>
         <translation>Eén keer per dag</translation>
     </message>
     <message>
         <source>Continuous backup</source>
+        <extracomment>Choice of the backup mode (noun): runs as soon as a file changes.</extracomment>
         <translation>Continue back-up</translation>
     </message>
     <message>
         <source>Scheduled backup</source>
+        <extracomment>Choice of the backup mode (noun): runs at set times.</extracomment>
         <translation>Geplande back-up</translation>
     </message>
     <message>
         <source>Set the backup plan</source>
+        <extracomment>Heading of a wizard page (verb).</extracomment>
         <translation>Het back-upplan instellen</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
+        <extracomment>Status of a backup: the state of the disk is being recorded.</extracomment>
         <translation>Er wordt een momentopname gemaakt...</translation>
     </message>
     <message>
@@ -3497,42 +4280,54 @@
     </message>
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
+        <extracomment>Tooltip of a field; %1 is a number.</extracomment>
         <translation>Voer een grootte van 0 tot en met %1 MB in. Voer 0 in voor geen limiet.</translation>
     </message>
     <message>
         <source>Connection</source>
+        <extracomment>Tab of the settings: the connection to the hub.
+----------
+Heading of a page: the connection to the hub.</extracomment>
         <translation>Verbinding</translation>
     </message>
     <message>
         <source>Show the activity of this task</source>
+        <extracomment>Tooltip of a button.</extracomment>
         <translation>De activiteit van deze taak weergeven</translation>
     </message>
     <message>
         <source>Minutes</source>
+        <extracomment>Choice: a unit of time in a list, beside a field for the number (plural).</extracomment>
         <translation>Minuten</translation>
     </message>
     <message>
         <source>Show removed items</source>
+        <extracomment>Tooltip of a button.</extracomment>
         <translation>Verwijderde items weergeven</translation>
     </message>
     <message>
         <source>Used</source>
+        <extracomment>Label beside a size: how much space is taken (participle; belongs to &quot;space&quot;).</extracomment>
         <translation>Gebruikt</translation>
     </message>
     <message>
         <source>Months</source>
+        <extracomment>Choice: a unit of time in a list, beside a field for the number (plural).</extracomment>
         <translation>Maanden</translation>
     </message>
     <message>
         <source>%1 of %2 used</source>
+        <extracomment>Label below a bar; %1 and %2 are sizes with their units: &quot;3 GB of 10 GB used&quot;.</extracomment>
         <translation>%1 van %2 gebruikt</translation>
     </message>
     <message>
         <source>Background task</source>
+        <extracomment>Label beside a task that runs without a window.</extracomment>
         <translation>Achtergrondtaak</translation>
     </message>
     <message>
         <source>Filter settings window</source>
+        <extracomment>Screen reader: names a window.</extracomment>
         <translation>Venster met filterinstellingen</translation>
     </message>
     <message>
@@ -3541,66 +4336,82 @@
     </message>
     <message>
         <source>Not synced: excluded by a system rule</source>
+        <extracomment>Event in the history, of a file: a rule of the client, not one of the user.</extracomment>
         <translation>Niet gesynchroniseerd: uitgesloten door een systeemregel</translation>
     </message>
     <message>
         <source>Export</source>
+        <extracomment>Button: stores the logs in a file (verb).</extracomment>
         <translation>Exporteren</translation>
     </message>
     <message>
         <source>Edit connection</source>
+        <extracomment>Button: opens the settings of the connection to the hub (verb).</extracomment>
         <translation>Verbinding bewerken</translation>
     </message>
     <message>
         <source>Not now</source>
+        <extracomment>Button: puts off what was offered.</extracomment>
         <translation>Niet nu</translation>
     </message>
     <message>
         <source>Created on</source>
+        <extracomment>Column head of a list: the day on which a link or a task was made.</extracomment>
         <translation>Gemaakt op</translation>
     </message>
     <message>
         <source>Backup tasks</source>
+        <extracomment>Tab of the main window (plural).</extracomment>
         <translation>Back-uptaken</translation>
     </message>
     <message>
         <source>Sync tasks</source>
+        <extracomment>Tab of the main window (plural).</extracomment>
         <translation>Synchronisatietaken</translation>
     </message>
     <message>
         <source>Filters</source>
+        <extracomment>Tab of a task&apos;s settings: which files are left out (plural).</extracomment>
         <translation>Filters</translation>
     </message>
     <message>
         <source>Recently changed</source>
+        <extracomment>Heading of the list of files that were changed lately (plural).</extracomment>
         <translation>Recent gewijzigd</translation>
     </message>
     <message>
         <source>Back up now</source>
+        <extracomment>Button: starts the backup at once (verb).</extracomment>
         <translation>Nu back-up maken</translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>Heading of the part of a page with the files to sync (noun, plural).</extracomment>
         <translation>Bestanden</translation>
     </message>
     <message>
         <source>Equal to</source>
+        <extracomment>Choice of a filter: before a size; belongs to &quot;size&quot;.</extracomment>
         <translation>Gelijk aan</translation>
     </message>
     <message>
         <source>Less than</source>
+        <extracomment>Choice of a filter: before a size; belongs to &quot;size&quot;.</extracomment>
         <translation>Kleiner dan</translation>
     </message>
     <message>
         <source>Greater than</source>
+        <extracomment>Choice of a filter: before a size; belongs to &quot;size&quot;.</extracomment>
         <translation>Groter dan</translation>
     </message>
     <message>
         <source>Select a folder on this computer</source>
+        <extracomment>Heading of the box in which a folder is chosen (verb).</extracomment>
         <translation>Selecteer een map op deze computer</translation>
     </message>
     <message>
         <source>This folder is already part of a backup task of %1. Please choose another folder.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Deze map maakt al deel uit van een back-uptaak van %1. Kies een andere map.</translation>
     </message>
     <message>
@@ -3609,38 +4420,47 @@
     </message>
     <message>
         <source>IP address</source>
+        <extracomment>Label beside the hub&apos;s address in the network.</extracomment>
         <translation>IP-adres</translation>
     </message>
     <message>
         <source>replied to your comment on</source>
+        <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann replied to your comment on Plan.txt&quot;.</extracomment>
         <translation>heeft geantwoord op uw reactie op</translation>
     </message>
     <message>
         <source>Open sync status</source>
+        <extracomment>Menu item in the tray menu: opens the page with the state of the tasks.</extracomment>
         <translation>Synchronisatiestatus openen</translation>
     </message>
     <message>
         <source>Replies</source>
+        <extracomment>Choice of a filter of notifications: replies to the user&apos;s comments (noun, plural).</extracomment>
         <translation>Antwoorden</translation>
     </message>
     <message>
         <source>Not synced</source>
+        <extracomment>Event in the history: the file was left out.</extracomment>
         <translation>Niet gesynchroniseerd</translation>
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
+        <extracomment>Message: %1 is a product name.</extracomment>
         <translation>Tessaly Server op de hub is te oud voor %1. Vraag uw beheerder om een update.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
+        <extracomment>Status, short, in the tray.</extracomment>
         <translation>Geen verbinding met de hub</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes a box.</extracomment>
         <translation>Sluiten</translation>
     </message>
     <message>
         <source>Advanced sharing</source>
+        <extracomment>Heading of a page: rights, password and validity of a sharing link.</extracomment>
         <translation>Geavanceerd delen</translation>
     </message>
     <message>
@@ -3649,22 +4469,27 @@
     </message>
     <message>
         <source>Enable advanced sharing</source>
+        <extracomment>Check box for an item.</extracomment>
         <translation>Geavanceerd delen inschakelen</translation>
     </message>
     <message>
         <source>Enable link protection</source>
+        <extracomment>Check box for an item: password and validity of its link (URL).</extracomment>
         <translation>Linkbeveiliging inschakelen</translation>
     </message>
     <message>
         <source>is now shared with advanced settings.</source>
+        <extracomment>Fragment: follows the name of a folder or file in a notification: &quot;Photos is now shared with advanced settings.&quot;</extracomment>
         <translation>is nu gedeeld met geavanceerde instellingen.</translation>
     </message>
     <message>
         <source>Protected sharing</source>
+        <extracomment>Heading of a page: a link (URL) with password and validity (participle; belongs to &quot;sharing&quot;).</extracomment>
         <translation>Beveiligd delen</translation>
     </message>
     <message>
         <source>Link protection</source>
+        <extracomment>Heading of a page: password and validity of a link (URL).</extracomment>
         <translation>Linkbeveiliging</translation>
     </message>
     <message>
@@ -3673,78 +4498,97 @@
     </message>
     <message>
         <source>Remove this link?</source>
+        <extracomment>Heading of a question; the link is a URL.</extracomment>
         <translation>Deze link verwijderen?</translation>
     </message>
     <message>
         <source>Save the logs of the client to a file that you can send to technical support.</source>
+        <extracomment>Message: &quot;logs&quot; are the records of what the client did; no relation to locks.</extracomment>
         <translation>Sla de logboeken van de client op in een bestand dat u naar de technische ondersteuning kunt sturen.</translation>
     </message>
     <message>
         <source>Enter a keyword</source>
+        <extracomment>Hint in an empty field.</extracomment>
         <translation>Voer een trefwoord in</translation>
     </message>
     <message>
         <source>Remove link</source>
+        <extracomment>Button: takes a link (URL) away (verb).</extracomment>
         <translation>Link verwijderen</translation>
     </message>
     <message>
         <source>Troubleshooting</source>
+        <extracomment>Tab of the settings: logs and so on (noun).</extracomment>
         <translation>Probleemoplossing</translation>
     </message>
     <message>
         <source>Record more details in the logs to help technical support find the cause of a problem.</source>
+        <extracomment>Message: &quot;logs&quot; are the records of what the client did; no relation to locks.</extracomment>
         <translation>Leg meer details vast in de logboeken, zodat de technische ondersteuning de oorzaak van een probleem kan vinden.</translation>
     </message>
     <message>
         <source>Export logs</source>
+        <extracomment>Button: stores the logs in a file (verb).</extracomment>
         <translation>Logboeken exporteren</translation>
     </message>
     <message>
         <source>File deleted</source>
+        <extracomment>Event in the history (noun and participle).</extracomment>
         <translation>Bestand verwijderd</translation>
     </message>
     <message>
         <source>The exported file contains:</source>
+        <extracomment>Label above a list, ends in a colon.</extracomment>
         <translation>Het geëxporteerde bestand bevat:</translation>
     </message>
     <message>
         <source>Information about the operating system of this computer</source>
+        <extracomment>Message: an entry of a list below &quot;The exported file contains:&quot;; no full stop.</extracomment>
         <translation>Informatie over het besturingssysteem van deze computer</translation>
     </message>
     <message>
         <source>Advanced logging</source>
+        <extracomment>Heading of a part of the settings: more details are written to the logs.</extracomment>
         <translation>Geavanceerde logboekregistratie</translation>
     </message>
     <message>
         <source>Advanced logs take up more space on the disk and may slow down the client.</source>
+        <extracomment>Message: &quot;logs&quot; are the records of what the client did; no relation to locks.</extracomment>
         <translation>Geavanceerde logboeken nemen meer ruimte in op de schijf en kunnen de client vertragen.</translation>
     </message>
     <message>
         <source>Privacy statement</source>
+        <extracomment>Link: opens a page of the maker.</extracomment>
         <translation>Privacyverklaring</translation>
     </message>
     <message>
         <source>The logs and settings of the client, without passwords</source>
+        <extracomment>Message: an entry of a list below &quot;The exported file contains:&quot;; no full stop.</extracomment>
         <translation>De logboeken en instellingen van de client, zonder wachtwoorden</translation>
     </message>
     <message>
         <source>Turn on advanced logging</source>
+        <extracomment>Check box of the settings: more details are written to the logs.</extracomment>
         <translation>Geavanceerde logboekregistratie inschakelen</translation>
     </message>
     <message>
         <source>Not synced: excluded by a filter of the task</source>
+        <extracomment>Event in the history, of a file: a rule of the user.</extracomment>
         <translation>Niet gesynchroniseerd: uitgesloten door een filter van de taak</translation>
     </message>
     <message>
         <source>Not synced: no permission</source>
+        <extracomment>Event in the history, of a file.</extracomment>
         <translation>Niet gesynchroniseerd: geen machtiging</translation>
     </message>
     <message>
         <source>Terms of service</source>
+        <extracomment>Link: opens a page of the maker.</extracomment>
         <translation>Servicevoorwaarden</translation>
     </message>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
+        <extracomment>Tooltip of a field; %1 is a number.</extracomment>
         <translation>Voer een grootte van minder dan %1 MB in.</translation>
     </message>
     <message>
@@ -3769,10 +4613,12 @@
     </message>
     <message>
         <source>:</source>
+        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
         <translation>:</translation>
     </message>
     <message>
         <source>File added</source>
+        <extracomment>Event in the history (noun and participle).</extracomment>
         <translation>Bestand toegevoegd</translation>
     </message>
     <message>
@@ -3789,6 +4635,7 @@
     </message>
     <message>
         <source>The hub is now able to index your entire home folder.</source>
+        <extracomment>Message: the home folder is the user&apos;s, not the hub&apos;s.</extracomment>
         <translation>De hub kan nu uw volledige thuismap indexeren.</translation>
     </message>
     <message>
@@ -3797,26 +4644,32 @@
     </message>
     <message>
         <source>Locked</source>
+        <extracomment>Status of a file: another program has it open (participle; belongs to &quot;file&quot;).</extracomment>
         <translation>Vergrendeld</translation>
     </message>
     <message>
         <source>Norvik disabled</source>
+        <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
         <translation>Norvik uitgeschakeld</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
+        <extracomment>Message: the home folder is the user&apos;s, not the hub&apos;s.</extracomment>
         <translation>De hub bereidt uw thuismap voor. Probeer het later opnieuw.</translation>
     </message>
     <message>
         <source>File renamed</source>
+        <extracomment>Event in the history (noun and participle).</extracomment>
         <translation>Bestand hernoemd</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was updated</source>
+        <extracomment>Event in a notification; %1 is a file name.</extracomment>
         <translation>‘%1’ is bijgewerkt</translation>
     </message>
     <message>
         <source>The name cannot contain any of the following characters: / : * ? &lt; &gt; |</source>
+        <extracomment>Message: the signs after the colon are to be kept as they are.</extracomment>
         <translation>De naam mag geen van de volgende tekens bevatten: / : * ? &lt; &gt; |</translation>
     </message>
     <message>
@@ -3829,10 +4682,12 @@
     </message>
     <message>
         <source>Add</source>
+        <extracomment>Button: adds an entry to a list (verb).</extracomment>
         <translation>Toevoegen</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>Button: deletes an entry (verb).</extracomment>
         <translation>Verwijderen</translation>
     </message>
     <message>
@@ -3845,14 +4700,17 @@
     </message>
     <message>
         <source>No valid folders</source>
+        <extracomment>Heading of the state of a task.</extracomment>
         <translation>Geen geldige mappen</translation>
     </message>
     <message>
         <source>Files stay on the hub until you open them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Learn more about on-demand sync&lt;/a&gt;</source>
+        <extracomment>Tooltip: the link is to be kept as it is.</extracomment>
         <translation>Bestanden blijven op de hub totdat u ze opent. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Meer informatie over synchronisatie op aanvraag&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Custom task name</source>
+        <extracomment>Check box beside a field: the user names the task.</extracomment>
         <translation>Aangepaste taaknaam</translation>
     </message>
     <message>

@@ -81,7 +81,8 @@ CATALOG_DEFECTS = [
     ("enu", "source", edit(lambda text: text[:-1] + ", too.", plain_sentence)),
     ("ger", "unfinished", on_first(lambda message, _: message.find("translation").set("type", "unfinished"))),
     ("ger", "unfinished", edit(lambda text: "")),
-    ("ger", "comment", on_first(lambda message, _: ElementTree.SubElement(message, "extracomment"))),
+    ("ger", "comment", on_first(lambda message, _: setattr(message.find("extracomment"), "text", "Button."))),
+    ("ger", "comment", on_first(lambda message, _: ElementTree.SubElement(message, "translatorcomment"))),
     ("ger", "messages", on_first(lambda message, context: context.remove(message))),
     ("ger", "messages", on_first(lambda message, context: context.append(message))),
     ("ger", "messages", on_first(add_unknown)),
@@ -93,7 +94,8 @@ GLOSSARY_DEFECTS = {
     "no file": lambda path: path.unlink(),
     "header": lambda path: path.write_text(path.read_text("utf-8").replace("English", "Term", 1), "utf-8"),
     "a term less": lambda path: path.write_text("".join(path.read_text("utf-8").splitlines(True)[:-1]), "utf-8"),
-    "not translated": lambda path: path.write_text(path.read_text("utf-8").rstrip("\n") + "\nterm\t\t\n", "utf-8"),
+    "a term more": lambda path: path.write_text(path.read_text("utf-8").rstrip("\n") + "\nterm\t\t\t\n", "utf-8"),
+    "a field less": lambda path: path.write_text(path.read_text("utf-8").replace("\t\n", "\n", 1), "utf-8"),
 }
 
 
@@ -104,7 +106,8 @@ class CheckCatalogsTest(unittest.TestCase):
         self.resources = Path(folder.name)
         self.catalogs = self.resources / "catalogs"
         shutil.copytree(PROJECT / "resources/catalogs", self.catalogs)
-        shutil.copy(PROJECT / "resources/str-table-rows.cpp", self.resources)
+        for name in ("languages.tsv", "str-table-rows.cpp"):
+            shutil.copy(PROJECT / "resources" / name, self.resources)
 
     def check(self, *codes):
         """The exit code, the rows of the table, and the lines of the defects."""

@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "log-statement.h"
+#include "log/log-statement.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ std::string FirstLine(const fs::path& path) {
 }
 
 void Statement(int number) {
-    LOG_WARNING("service_debug", "failed to create folder: '%s' (%d)\n", kPath.c_str(), number);
+    KQ_LOG_WARNING("service_debug", "failed to create folder: '%s' (%d)\n", kPath.c_str(), number);
 }
 
 void OpenLogger(const fs::path& path) {
@@ -129,7 +129,7 @@ void Disabled(benchmark::State& state) {
     const long before = allocations;
     for (auto _ : state) {
         // The longest name of a component: 15 characters.
-        LOG_DEBUG("extractor_debug", "not written: '%s'\n", kPath.c_str());
+        KQ_LOG_DEBUG("extractor_debug", "not written: '%s'\n", kPath.c_str());
     }
     state.counters[kAllocations] =
         benchmark::Counter(static_cast<double>(allocations - before), benchmark::Counter::kAvgIterations);

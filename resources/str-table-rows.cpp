@@ -6,7 +6,7 @@
 // Message), then says where the text stands, what its placeholders become, and what could be mistaken. A row without one
 // is a message that speaks for itself.
 
-#include "str-table-rows.h"
+#include "resources/str-table-rows.h"
 
 #include <QtGlobal>
 

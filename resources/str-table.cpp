@@ -1,8 +1,8 @@
-#include "str-table.h"
+#include "resources/str-table.h"
 
 #include <QCoreApplication>
 
-#include "str-table-rows.h"
+#include "resources/str-table-rows.h"
 
 namespace StrTable {
 namespace {

@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "extractor.h"
-#include "file-op.h"
-#include "log-statement.h"
+#include "file/file-op.h"
+#include "log/log-statement.h"
 #include "path-table.h"
 #include "version-info.h"
 
@@ -19,7 +19,7 @@ std::string GetAppBackupDir(const std::string& path, int index) {
     std::string name;
     if (!BackupName(path, index, name)) {
         // No newline of its own: the log's readers know the line so.
-        LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
+        KQ_LOG_ERROR(kComponent, "snprintf failed (continuing without postfix)");
     }
     return name;
 }
@@ -39,10 +39,10 @@ int BackUp(const std::string& appDir, std::string& backupPath, int& attempt) {
             return 0;
         }
         // At once, without a pause: what stands in the way is a leftover under that name, not a moment.
-        LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", appDir.c_str(), backupPath.c_str());
+        KQ_LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", appDir.c_str(), backupPath.c_str());
     }
-    LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", appDir.c_str(),
-              backupPath.c_str());
+    KQ_LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", appDir.c_str(),
+                 backupPath.c_str());
     return -1;
 }
 
@@ -50,10 +50,10 @@ int BackUp(const std::string& appDir, std::string& backupPath, int& attempt) {
 void RollBack(const std::string& appDir, const std::string& backupPath) {
     if (backupPath.empty()) {
         // What was unpacked is deliberately left: there is nothing better to start.
-        LOG_ERROR(kComponent, "Failed to extract package, and no old installation to rollback\n");
+        KQ_LOG_ERROR(kComponent, "Failed to extract package, and no old installation to rollback\n");
         return;
     }
-    LOG_ERROR(kComponent, "Failed to extract package, rollback to old installation\n");
+    KQ_LOG_ERROR(kComponent, "Failed to extract package, rollback to old installation\n");
     FSRemove(appDir, false);
     FSRename(backupPath, appDir, false);
 }
@@ -76,7 +76,7 @@ QString Service::GetUserInstallPath() {
 void Service::LoadSourceVersion() {
     const std::string path = (TablePath(kUserKelvaneQuayResourcePath) + InResources(kInfoFile)).toStdString();
     if (!IsFileExist(path, false)) {
-        LOG_INFO(kComponent, "source does not exist\n");
+        KQ_LOG_INFO(kComponent, "source does not exist\n");
         return;
     }
     const VersionInfo info = ReadVersionInfo(path);
@@ -84,8 +84,8 @@ void Service::LoadSourceVersion() {
     Take(info.minorVersion, sourceMinorVersion);
     Take(info.buildVersion, sourceBuildVersion);
     Take(info.iconOverlayVersion, sourceIconOverlayVersion);
-    LOG_INFO(kComponent, "source_version = (%s, %s, %s, %s)\n", sourceMajorVersion.c_str(), sourceMinorVersion.c_str(),
-             sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
+    KQ_LOG_INFO(kComponent, "source_version = (%s, %s, %s, %s)\n", sourceMajorVersion.c_str(),
+                sourceMinorVersion.c_str(), sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
 }
 
 void Service::LoadTargetVersion() {
@@ -96,8 +96,8 @@ void Service::LoadTargetVersion() {
     Take(info.minorVersion, targetMinorVersion);
     Take(info.buildVersion, targetBuildVersion);
     Take(info.iconOverlayVersion, targetIconOverlayVersion);
-    LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(), targetMinorVersion.c_str(),
-             targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
+    KQ_LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(),
+                targetMinorVersion.c_str(), targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
 }
 
 int Service::PrepareUserEnv() {
@@ -111,7 +111,7 @@ int Service::PrepareUserEnv() {
         RollBack(appDir, backupPath);
         return -1;
     }
-    LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
+    KQ_LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
     // From index 0 on, not the one in use alone: the leftovers that pushed the index up go in the same sweep.
     for (int index = 0; index <= attempt; ++index) {
         FSRemove(GetAppBackupDir(appDir, index), false);
@@ -123,10 +123,10 @@ int Service::ExtractPackage() {
     const std::string package = (TablePath(kRootResourcePath) + InResources(kPackageFile)).toStdString();
     const std::string target = TablePath(kUserKelvaneQuayAppPath).toStdString();
     if (FSMKDir(target, true) < 0) {
-        LOG_ERROR(kComponent, "failed to create folder: '%s'\n", target.c_str());
+        KQ_LOG_ERROR(kComponent, "failed to create folder: '%s'\n", target.c_str());
         return -1;
     }
-    LOG_INFO(kComponent, "extract package: '%s' -> '%s'\n", package.c_str(), target.c_str());
+    KQ_LOG_INFO(kComponent, "extract package: '%s' -> '%s'\n", package.c_str(), target.c_str());
     Extractor extractor;
     extractor.sourcePath = package;
     extractor.destPath = target;
@@ -137,35 +137,35 @@ void Service::MigrateService() {
     const QString oldRoot = QDir::toNativeSeparators(TablePath(kUserTessalyPath));
     const QString newRoot = QDir::toNativeSeparators(TablePath(kUserKelvaneQuayPath));
     if (!IsFileExist(newRoot.toStdString(), true) && FSMKDir(newRoot.toStdString(), true) < 0) {
-        LOG_ERROR(kComponent, "Failed to create Kelvane Quay folder\n");
+        KQ_LOG_ERROR(kComponent, "Failed to create Kelvane Quay folder\n");
         return;
     }
     const std::string oldData = QDir::toNativeSeparators(oldRoot + "/" + kDataFolder).toStdString();
     const std::string newData = QDir::toNativeSeparators(newRoot + "/" + kDataFolder).toStdString();
     if (IsFileExist(oldData, true) && FSRename(oldData, newData, true) < 0) {
-        LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
+        KQ_LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
     }
     // Deliberately whatever became of the move: the older product goes, and the settled order has no test here.
     if (IsFileExist(oldRoot.toStdString(), true) && FSRemove(oldRoot.toStdString(), false) < 0) {
-        LOG_ERROR(kComponent, "Failed to remove old .Tessaly folder\n");
+        KQ_LOG_ERROR(kComponent, "Failed to remove old .Tessaly folder\n");
     }
 }
 
 void Service::RemoveAgedFolders() {
     const std::string agedApp = (TablePath(kUserTessalyPath) + "/" + kAgedFolder).toStdString();
-    LOG_INFO(kComponent, "removing aged app folder %s\n", agedApp.c_str());
+    KQ_LOG_INFO(kComponent, "removing aged app folder %s\n", agedApp.c_str());
     FSRemove(agedApp, false);
 }
 
 int Service::FSCopyPath(const std::string& src, const std::string& dst) {
-    LOG_DEBUG(kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
+    KQ_LOG_DEBUG(kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
     _FILE_INFO_tag info;
     if (FSStat(src, info, false) < 0) {
-        LOG_ERROR(kComponent, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        KQ_LOG_ERROR(kComponent, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
         return -1;
     }
     if (!info.exist) {
-        LOG_ERROR(kComponent, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        KQ_LOG_ERROR(kComponent, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
         return -1;
     }
     if (info.type != FILE_TYPE_DIRECTORY) {
@@ -174,13 +174,13 @@ int Service::FSCopyPath(const std::string& src, const std::string& dst) {
         return 0;
     }
     if (FSMKDir(dst, true) < 0) {
-        LOG_ERROR(kComponent, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
+        KQ_LOG_ERROR(kComponent, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
         return -1;
     }
     DIR_HANDLE listing = {};
     if (FSOpenDir(src, 0, listing) < 0) {
         // A folder that can't be listed counts as copied, empty; the two blanks are the line's own.
-        LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n", src.c_str());
+        KQ_LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n", src.c_str());
         return 0;
     }
     int result = 0;
@@ -193,7 +193,7 @@ int Service::FSCopyPath(const std::string& src, const std::string& dst) {
         const std::string to = dst + "/" + entry.name;
         const int copied = entry.type == FILE_TYPE_DIRECTORY ? FSCopyPath(from, to) : FSCopy(from, to, false, false);
         if (copied < 0) {
-            LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
+            KQ_LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
             result = -1;
         }
     }

@@ -6,9 +6,9 @@
 #include <iostream>
 #include <memory>
 
-#include "log-statement.h"
+#include "log/log-statement.h"
 #include "notify-adapter.h"
-#include "str-table.h"
+#include "resources/str-table.h"
 
 namespace {
 
@@ -43,12 +43,12 @@ void SupportAll(archive* reader) {
 Reader OpenForReading(const std::string& path) {
     Reader reader(archive_read_new());
     if (!reader) {
-        LOG_ERROR(kComponent, "Allocate archive failed\n");
+        KQ_LOG_ERROR(kComponent, "Allocate archive failed\n");
         return nullptr;
     }
     SupportAll(reader.get());
     if (archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
+        KQ_LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
         return nullptr;
     }
     return reader;
@@ -60,7 +60,7 @@ int ExtractEntry(archive* reader, archive* writer, archive_entry* entry, const s
     const char* pathname = archive_entry_pathname(entry);
     if (pathname == nullptr) {
         // No newline of its own: the log's readers know the line so.
-        LOG_ERROR(kComponent, "archive_entry_pathname failed");
+        KQ_LOG_ERROR(kComponent, "archive_entry_pathname failed");
         return -1;
     }
     // Joined as it stands: an absolute pathname thereby lands below the folder, and ".." is the writer's to refuse.
@@ -69,12 +69,12 @@ int ExtractEntry(archive* reader, archive* writer, archive_entry* entry, const s
 
     // A mere warning fails as well: a client that is almost complete is not.
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer));
+        KQ_LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer));
         return -1;
     }
     Notify_Adapter::GetInstance()->UpdateProgress(total, current);
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
+        KQ_LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
         return -1;
     }
     return 0;
@@ -89,7 +89,7 @@ int ExtractEntries(archive* reader, archive* writer, const std::string& destPath
             return 0;
         }
         if (header != ARCHIVE_OK) {
-            LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
+            KQ_LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
             return -1;
         }
         if (ExtractEntry(reader, writer, entry, destPath, total, current) != 0) {
@@ -102,33 +102,33 @@ int ExtractEntries(archive* reader, archive* writer, const std::string& destPath
 
 int Extractor::Extract() {
     if (sourcePath.empty() || destPath.empty()) {
-        LOG_ERROR(kComponent, "Invalid Argument\n");
+        KQ_LOG_ERROR(kComponent, "Invalid Argument\n");
         return -1;
     }
-    LOG_DEBUG(kComponent, "decompress from '%s' to '%s'\n", sourcePath.c_str(), destPath.c_str());
+    KQ_LOG_DEBUG(kComponent, "decompress from '%s' to '%s'\n", sourcePath.c_str(), destPath.c_str());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStrWithAppName(StrTable::kRowInitializing));
 
     const int total = Count();
     if (total <= 0) {
-        LOG_ERROR(kComponent, "Failed to calculate total file numbers, ret: %d\n", total);
+        KQ_LOG_ERROR(kComponent, "Failed to calculate total file numbers, ret: %d\n", total);
         return -1;
     }
 
     Writer writer;  // declared first, so that the reader is freed before it
     const Reader reader(archive_read_new());
     if (!reader) {
-        LOG_ERROR(kComponent, "Allocate extractor failed\n");
+        KQ_LOG_ERROR(kComponent, "Allocate extractor failed\n");
         return -1;
     }
     writer.reset(archive_write_disk_new());
     if (!writer) {
-        LOG_ERROR(kComponent, "Allocate extractor failed\n");
+        KQ_LOG_ERROR(kComponent, "Allocate extractor failed\n");
         return -1;
     }
     archive_write_disk_set_options(writer.get(), kDiskOptions);
     SupportAll(reader.get());
     if (archive_read_open_filename(reader.get(), sourcePath.c_str(), kBlockSize) != ARCHIVE_OK) {
-        LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", sourcePath.c_str(), ErrorText(reader.get()));
+        KQ_LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", sourcePath.c_str(), ErrorText(reader.get()));
         return -1;
     }
     return ExtractEntries(reader.get(), writer.get(), destPath, total);
@@ -137,7 +137,7 @@ int Extractor::Extract() {
 int Extractor::Count() {
     // An empty destination is refused too, although nothing is written here.
     if (destPath.empty() || sourcePath.empty()) {
-        LOG_ERROR(kComponent, "Invalid argument\n");
+        KQ_LOG_ERROR(kComponent, "Invalid argument\n");
         return -1;
     }
     const Reader reader = OpenForReading(sourcePath);
@@ -157,7 +157,7 @@ int Extractor::Count() {
 int Extractor::List() {
     if (destPath.empty() || sourcePath.empty()) {
         // Deliberately no return: a listing needs no destination, and a missing source fails at its open.
-        LOG_ERROR(kComponent, "Invalid argument\n");
+        KQ_LOG_ERROR(kComponent, "Invalid argument\n");
     }
     const Reader reader = OpenForReading(sourcePath);
     if (!reader) {
@@ -175,7 +175,7 @@ int Extractor::List() {
 
 int Extractor::copy_data(archive* reader, archive* writer) {
     if (reader == nullptr || writer == nullptr) {
-        LOG_ERROR(kComponent, "Invalid Argument\n");
+        KQ_LOG_ERROR(kComponent, "Invalid Argument\n");
         return -1;
     }
     for (;;) {
@@ -187,11 +187,11 @@ int Extractor::copy_data(archive* reader, archive* writer) {
             return 0;
         }
         if (read != ARCHIVE_OK) {
-            LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", ErrorText(reader));
+            KQ_LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", ErrorText(reader));
             return -1;
         }
         if (archive_write_data_block(writer, block, size, offset) != ARCHIVE_OK) {
-            LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", ErrorText(writer));
+            KQ_LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", ErrorText(writer));
             return -1;
         }
     }

@@ -6,12 +6,12 @@
 #include <QTimer>
 #include <climits>
 
-#include "dpi-info.h"
-#include "log-statement.h"
-#include "mac-service.h"
+#include "log/log-statement.h"
+#include "mac/mac-service.h"
 #include "notify-adapter.h"
 #include "path-table.h"
-#include "str-table.h"
+#include "pier/dpi-info.h"
+#include "resources/str-table.h"
 
 namespace {
 
@@ -79,7 +79,7 @@ void Worker::Upgrade() {
     Q_EMIT sigShowMsg();
     if (service->HandlePackageUpgrade() != 0) {
         // The user is told nothing: the run goes on to the launch of whatever copy there is.
-        LOG_ERROR(kComponent, "Failed to upgrade package\n");
+        KQ_LOG_ERROR(kComponent, "Failed to upgrade package\n");
         return;
     }
     Q_EMIT sigUpdateProgress(100, 100);
@@ -87,16 +87,16 @@ void Worker::Upgrade() {
 }
 
 void Worker::HandleServicce() {
-    LOG_DEBUG(kComponent, "running\n");
+    KQ_LOG_DEBUG(kComponent, "running\n");
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         Upgrade();
     } else {
-        LOG_DEBUG(kComponent, "no need to upgrade\n");
+        KQ_LOG_DEBUG(kComponent, "no need to upgrade\n");
     }
     service->RemoveAgedFolders();
     service->PostUpgrade();
-    LOG_DEBUG(kComponent, "done\n");
+    KQ_LOG_DEBUG(kComponent, "done\n");
     Q_EMIT sigServiceDone();
 }
 

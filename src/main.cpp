@@ -7,16 +7,15 @@
 #include <memory>
 #include <string>
 
-#include "character-set.h"
 #include "cloud-service.h"
-#include "kelvane-locale.h"
 #include "launcher.h"
-#include "log-statement.h"
+#include "log/log-statement.h"
 #include "path-table.h"
-#include "single-application.h"
-#include "str-table.h"
-#include "texts.h"
-#include "write-signals.h"
+#include "pier/kelvane-locale.h"
+#include "pier/single-application.h"
+#include "platform/process-setup.h"
+#include "resources/str-table.h"
+#include "resources/texts.h"
 
 namespace {
 
@@ -31,7 +30,7 @@ void LogPaths() {
     for (const PathKey key : {kUserTessalyPath, kUserTessalyAppPath, kUserTessalyResourcePath, kUserTessalyDataPath,
                               kUserTessalyWorkingDirPath, kUserTessalyQuayUiPath, kRootResourcePath}) {
         const std::wstring path = TablePath(key).toStdWString();
-        LOG_INFO(kComponent, ">>> %s = %s\n", key.name, reinterpret_cast<const char*>(path.c_str()));
+        KQ_LOG_INFO(kComponent, ">>> %s = %s\n", key.name, reinterpret_cast<const char*>(path.c_str()));
     }
 }
 
@@ -72,6 +71,8 @@ void SetApplicationFont(const QString& language) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    platform::UsePathsInUtf8();
+    platform::DropQtWarnings();
     QtSingleApplication application(argc, argv, true);
     std::setlocale(LC_ALL, "");
     platform::EnsureUtf8CharacterSet();
@@ -80,7 +81,7 @@ int main(int argc, char** argv) {
     FillPathTable(Service::GetUserInstallPath(), QCoreApplication::applicationDirPath());
     StartLog();
     if (application.isRunning()) {
-        LOG_DEBUG(kComponent, "app has already launched, return\n");
+        KQ_LOG_DEBUG(kComponent, "app has already launched, return\n");
         return 0;
     }
     const QString language = InstallTranslation();

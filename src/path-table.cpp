@@ -2,7 +2,7 @@
 
 #include <QDir>
 
-#include "path-manager.h"
+#include "pier/path-manager.h"
 
 void FillPathTable(const QString& home, const QString& applicationFolder) {
     const QString user = home + "/" + kPrivateFolder;

@@ -1,4 +1,4 @@
-#include "mac-service.h"
+#include "mac/mac-service.h"
 
 #include <unistd.h>
 
@@ -8,11 +8,11 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "application-registry.h"
-#include "config.h"
-#include "file-op.h"
-#include "log-statement.h"
+#include "file/file-op.h"
+#include "log/config.h"
+#include "log/log-statement.h"
 #include "path-table.h"
+#include "platform/application-registry.h"
 #include "version-info.h"
 
 namespace {
@@ -34,7 +34,7 @@ void StopProcess(pid_t process) {
             return;
         }
         const int error = errno;
-        LOG_ERROR(kComponent, "kill: %s (%d)\n", std::strerror(error), error);
+        KQ_LOG_ERROR(kComponent, "kill: %s (%d)\n", std::strerror(error), error);
     }
     for (int probe = 0; probe < kStopProbes; ++probe) {
         // Any other failure than "no such process" counts as still running.
@@ -68,23 +68,23 @@ void MacService::LoadTargetVerInfo() {
 void MacService::PreUpgrade() {
     LoadTargetVersion();
     LoadSourceVersion();
-    LOG_DEBUG(kComponent, "Source version: ('%s', '%s')\n", sourceBuildVersion.c_str(),
-              sourceIconOverlayVersion.c_str());
-    LOG_DEBUG(kComponent, "Target version: ('%s', '%s')\n", targetBuildVersion.c_str(),
-              targetIconOverlayVersion.c_str());
+    KQ_LOG_DEBUG(kComponent, "Source version: ('%s', '%s')\n", sourceBuildVersion.c_str(),
+                 sourceIconOverlayVersion.c_str());
+    KQ_LOG_DEBUG(kComponent, "Target version: ('%s', '%s')\n", targetBuildVersion.c_str(),
+                 targetIconOverlayVersion.c_str());
 }
 
 bool MacService::IsNeedUpgrade() {
     const int source = BuildNumber(sourceBuildVersion);
     const int target = BuildNumber(targetBuildVersion);
-    LOG_DEBUG(kComponent, "source version = %d, target version = %d\n", source, target);
+    KQ_LOG_DEBUG(kComponent, "source version = %d, target version = %d\n", source, target);
     const bool installed = PerUserBinPathExist();
     return target > source || !installed;
 }
 
 int MacService::HandlePackageUpgrade() {
     if (PerUserBinPathExist()) {
-        LOG_DEBUG(kComponent, "local appdata exist\n");
+        KQ_LOG_DEBUG(kComponent, "local appdata exist\n");
         StopService();
     } else {
         // A first install, perhaps from the older product. The exact spelling is asked for: a folder that is reached
@@ -101,7 +101,7 @@ int MacService::HandlePackageUpgrade() {
 void MacService::PostUpgrade() {
     if (LaunchPerUserBin() < 0) {
         // The older product's name, deliberately: support looks for the line so.
-        LOG_ERROR(kComponent, "Failed to launch Tessaly UI\n");
+        KQ_LOG_ERROR(kComponent, "Failed to launch Tessaly UI\n");
     }
 }
 
@@ -114,7 +114,7 @@ int MacService::LaunchPerUserBin() {
     const QString application = TablePath(kUserKelvaneQuayAppPath);
     if (platform::ForgetApplication(application) != 0) {
         // No newline of its own: the log's readers know the line so.
-        LOG_ERROR(kComponent, "Cannot unregister bundle, %s", application.toUtf8().constData());
+        KQ_LOG_ERROR(kComponent, "Cannot unregister bundle, %s", application.toUtf8().constData());
     }
     return platform::StartApplication(application, TablePath(kUserKelvaneQuayUiPath)) ? 0 : -1;
 }
@@ -126,13 +126,13 @@ void MacService::StopService() {
 void MacService::StopServiceByPath(const QString& folder) {
     const std::string file = (folder + "/" + kPidFile).toStdString();
     if (!IsFileExist(file, false)) {
-        LOG_DEBUG(kComponent, "pid file '%s' does not exist, no need to terminate\n", file.c_str());
+        KQ_LOG_DEBUG(kComponent, "pid file '%s' does not exist, no need to terminate\n", file.c_str());
         return;
     }
     Config pidFile;
     // Without a value there is no process to name: as good as unreadable.
     if (pidFile.read(file) < 0 || pidFile["pid"].empty()) {
-        LOG_NOTE(kComponent, "Failed to read pid file '%s', not exist ?\n", file.c_str());
+        KQ_LOG_NOTE(kComponent, "Failed to read pid file '%s', not exist ?\n", file.c_str());
         return;
     }
     // Deliberately no look at the number, and none at whose it is: the client's file is trusted as it stands.

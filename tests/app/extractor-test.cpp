@@ -10,7 +10,7 @@
 
 #include "notify-adapter.h"
 #include "package.h"
-#include "str-table.h"
+#include "resources/str-table.h"
 #include "test-folder.h"
 
 namespace fs = std::filesystem;

@@ -9,9 +9,9 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
-#include "dpi-info.h"
 #include "notify-adapter.h"
-#include "str-table.h"
+#include "pier/dpi-info.h"
+#include "resources/str-table.h"
 
 namespace {
 

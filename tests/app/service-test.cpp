@@ -6,7 +6,7 @@
 #include <QDir>
 #include <filesystem>
 
-#include "mac-service.h"
+#include "mac/mac-service.h"
 #include "package.h"
 #include "test-folder.h"
 

@@ -1,4 +1,4 @@
-#include "str-table.h"
+#include "resources/str-table.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include <QSet>
 #include <QTranslator>
 
-#include "str-table-rows.h"
-#include "texts.h"
+#include "resources/str-table-rows.h"
+#include "resources/texts.h"
 
 namespace {
 

@@ -18,10 +18,10 @@
 #include <cstdio>
 #include <memory>
 
-#include "dpi-info.h"
 #include "launcher.h"
-#include "str-table.h"
-#include "texts.h"
+#include "pier/dpi-info.h"
+#include "resources/str-table.h"
+#include "resources/texts.h"
 
 namespace {
 

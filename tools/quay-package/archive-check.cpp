@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "content-check.h"
-#include "string-helper.h"
+#include "text/string-helper.h"
 
 using kelvanequay::utils::StringHelper;
 

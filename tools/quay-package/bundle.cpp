@@ -7,10 +7,10 @@
 
 #include "archive-reader.h"
 #include "command.h"
-#include "config.h"
 #include "content-check.h"
-#include "file-op.h"
+#include "file/file-op.h"
 #include "interruption.h"
+#include "log/config.h"
 #include "names.h"
 #include "output-file.h"
 #include "product-layout.h"

@@ -5,10 +5,10 @@
 
 #include "archive-check.h"
 #include "command.h"
-#include "config.h"
 #include "content-check.h"
-#include "file-op.h"
+#include "file/file-op.h"
 #include "interruption.h"
+#include "log/config.h"
 #include "output-file.h"
 #include "product-layout.h"
 #include "progress.h"

@@ -3,10 +3,9 @@
 #include <clocale>
 #include <cstdio>
 
-#include "character-set.h"
 #include "command.h"
 #include "interruption.h"
-#include "path-encoding.h"
+#include "platform/process-setup.h"
 #include "report.h"
 
 namespace {
@@ -35,7 +34,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 int main(int argc, char** argv) {
-    UsePathsInUtf8();
+    platform::UsePathsInUtf8();
     const QCoreApplication application(argc, argv);
     std::setlocale(LC_ALL, "");
     platform::EnsureUtf8CharacterSet();

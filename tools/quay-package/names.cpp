@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <deque>
 
-#include "string-helper.h"
+#include "text/string-helper.h"
 
 using kelvanequay::utils::StringHelper;
 

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <vector>
 
-#include "file-op.h"
+#include "file/file-op.h"
 #include "tree-scan.h"
 
 namespace {

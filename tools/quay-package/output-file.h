@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "handles.h"
+#include "posix/handles.h"
 
 // A file that is written beside its place, under a hidden name, and then renamed over what stands there. Without
 // Commit() the destructor removes it, and what stood there stays. Each operation returns an empty text or what failed.

@@ -8,14 +8,14 @@
 #include <cstdlib>
 
 #include "extractor.h"
-#include "file-op.h"
+#include "file/file-op.h"
 #include "interruption.h"
-#include "logger.h"
+#include "log/logger.h"
 #include "notify-adapter.h"
 #include "output-file.h"
 #include "progress.h"
 #include "report.h"
-#include "str-table.h"
+#include "resources/str-table.h"
 #include "tree-scan.h"
 
 namespace {

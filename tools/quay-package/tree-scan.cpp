@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "handles.h"
+#include "posix/handles.h"
 
 bool ListFolder(const std::string& folder, std::vector<std::string>& names) {
     const DirStream stream(opendir(folder.c_str()));

@@ -5,7 +5,7 @@
 #include <limits>
 #include <sstream>
 
-#include "mac-service.h"
+#include "mac/mac-service.h"
 #include "path-table.h"
 
 namespace {

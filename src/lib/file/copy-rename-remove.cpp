@@ -7,10 +7,10 @@
 #include <cstdio>
 #include <cstring>
 
-#include "file-op.h"
-#include "handles.h"
-#include "internal.h"
-#include "log-statement.h"
+#include "file/file-op.h"
+#include "file/internal.h"
+#include "log/log-statement.h"
+#include "posix/handles.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ Fd OpenForCopy(const std::string& path, int flags, mode_t mode) {
     Fd file(open(path.c_str(), flags | O_CLOEXEC, mode));
     if (!file) {
         const int error = errno;
-        LOG_ERROR(kLogComponent, "CopyFile: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+        KQ_LOG_ERROR(kLogComponent, "CopyFile: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
     }
     return file;
 }
@@ -44,7 +44,7 @@ int WriteBlock(const Fd& file, const char* block, std::size_t size) {
         if (written <= 0) {
             // Taken before the message, which may disturb errno.
             const int error = errno;
-            LOG_ERROR(kLogComponent, "CopyFile: write: %s (%d)\n", std::strerror(error), error);
+            KQ_LOG_ERROR(kLogComponent, "CopyFile: write: %s (%d)\n", std::strerror(error), error);
             return error == ENOSPC || error == EDQUOT ? -2 : -1;
         }
         block += written;
@@ -61,7 +61,7 @@ int CopyContent(const Fd& source, const Fd& destination) {
         const ssize_t size = read(source.get(), block, sizeof(block));
         if (size < 0) {
             const int error = errno;
-            LOG_ERROR(kLogComponent, "CopyFile: read: %s (%d)\n", std::strerror(error), error);
+            KQ_LOG_ERROR(kLogComponent, "CopyFile: read: %s (%d)\n", std::strerror(error), error);
             return -1;
         }
         if (size == 0) {
@@ -135,7 +135,7 @@ int FSCopy(const std::string& src, const std::string& dst, bool removeSource, bo
     if (keepMode) {
         _FILE_INFO_tag info;
         if (FSStat(src, info, true) < 0) {
-            LOG_ERROR(kLogComponent, "FSStat: check state (%s) failed\n", src.c_str());
+            KQ_LOG_ERROR(kLogComponent, "FSStat: check state (%s) failed\n", src.c_str());
             return -1;
         }
         // Deliberate: a source that stands under another spelling counts as absent here, its mode is 0, and so is that
@@ -205,12 +205,12 @@ int FSFsync(const std::string& path) {
         if (error == ENOENT) {
             return 1;
         }
-        LOG_ERROR(kLogComponent, "FSFsync: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+        KQ_LOG_ERROR(kLogComponent, "FSFsync: open(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
         return -1;
     }
     if (fsync(file.get()) < 0) {
         const int error = errno;
-        LOG_ERROR(kLogComponent, "FSFsync: fsync(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
+        KQ_LOG_ERROR(kLogComponent, "FSFsync: fsync(%s): %s (%d)\n", path.c_str(), std::strerror(error), error);
         return -1;
     }
     return 0;

@@ -7,9 +7,9 @@
 #include <cstring>
 #include <memory>
 
-#include "file-op.h"
-#include "internal.h"
-#include "log-statement.h"
+#include "file/file-op.h"
+#include "file/internal.h"
+#include "log/log-statement.h"
 
 namespace {
 
@@ -58,12 +58,12 @@ int WalkLevel(const char* path, bool isLast, bool replaceFile, mode_t mode) {
             // Its failure is that of the mkdir that follows.
             static_cast<void>(std::remove(path));
         } else if (isLast) {
-            LOG_INFO(kLogComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n", path);
+            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n", path);
             return EEXIST;
         } else {
             // Deliberate: the text speaks of a link though a plain file stands there, and the walk goes on: the next
             // level's mkdir is what fails.
-            LOG_INFO(kLogComponent, "FSMKDirP: path: %s is symbolic link pointed to folder\n", path);
+            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is symbolic link pointed to folder\n", path);
             return 0;
         }
     }
@@ -135,7 +135,7 @@ int FSMKDir(const std::string& path, bool recursive) {
     }
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        LOG_ERROR(kLogComponent, "FSMKDir: Failed to to file info '%s'\n", path.c_str());
+        KQ_LOG_ERROR(kLogComponent, "FSMKDir: Failed to to file info '%s'\n", path.c_str());
         return -1;
     }
     if (info.exist) {
@@ -143,8 +143,8 @@ int FSMKDir(const std::string& path, bool recursive) {
             return 0;
         }
         // Deliberate: a link to a folder is refused as well, since the record tells of the link.
-        LOG_ERROR(kLogComponent, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
-                  path.c_str(), info.type);
+        KQ_LOG_ERROR(kLogComponent, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+                     path.c_str(), info.type);
         return -1;
     }
     int error = 0;
@@ -154,7 +154,7 @@ int FSMKDir(const std::string& path, bool recursive) {
         error = MakeLevel(path.c_str(), kFolderMode);
     }
     if (error != 0) {
-        LOG_ERROR(kLogComponent, "path = %s errno : %s\n", path.c_str(), std::strerror(error));
+        KQ_LOG_ERROR(kLogComponent, "path = %s errno : %s\n", path.c_str(), std::strerror(error));
         errno = error;
         return -2;
     }
@@ -163,19 +163,19 @@ int FSMKDir(const std::string& path, bool recursive) {
 
 int FSMKDirFromRoot(const std::string& target, const std::string& root) {
     if (root.size() > target.size()) {
-        LOG_ERROR(kLogComponent, "Giving a root '%s' whose length is larger then target's '%s'.\n", root.c_str(),
-                  target.c_str());
+        KQ_LOG_ERROR(kLogComponent, "Giving a root '%s' whose length is larger then target's '%s'.\n", root.c_str(),
+                     target.c_str());
         return -1;
     }
     if (!FSIsParentFolder(root, target)) {
-        LOG_ERROR(kLogComponent, "root '%s' is not a parent folder of target '%s'\n", root.c_str(), target.c_str());
+        KQ_LOG_ERROR(kLogComponent, "root '%s' is not a parent folder of target '%s'\n", root.c_str(), target.c_str());
         return -1;
     }
     const std::string rest = target.substr(root.size());
     std::string current;
     while (current != rest) {
         current = rest.substr(0, rest.find('/', current.size() + 1));
-        LOG_DEBUG(kLogComponent, "FSMKDirFromRoot: create %s\n", current.c_str());
+        KQ_LOG_DEBUG(kLogComponent, "FSMKDirFromRoot: create %s\n", current.c_str());
         if (FSMKDir(root + current, false) < 0) {
             return -1;
         }
@@ -197,7 +197,8 @@ int FSOpenDir(const std::string& path, int flags, DIR_HANDLE& handle) {
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
         const int error = errno;
-        LOG_ERROR(kLogComponent, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(), std::strerror(error));
+        KQ_LOG_ERROR(kLogComponent, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
+                     std::strerror(error));
         return -1;
     }
     handle.dir = dir;
@@ -216,7 +217,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if ((handle.flags & 1) != 0) {
         const std::string path = handle.path + "/" + read->d_name;
         if (FSStat(path, info, true) < 0) {
-            LOG_ERROR(kLogComponent, "FSOpenDir: Failed to get info for '%s'\n", path.c_str());
+            KQ_LOG_ERROR(kLogComponent, "FSOpenDir: Failed to get info for '%s'\n", path.c_str());
             return -1;
         }
     }

@@ -6,11 +6,11 @@
 #include <tuple>
 #include <utility>
 
-#include "file-op.h"
-#include "file-reference.h"
-#include "internal.h"
-#include "log-statement.h"
-#include "string-helper.h"
+#include "file/file-op.h"
+#include "file/internal.h"
+#include "log/log-statement.h"
+#include "platform/file-reference.h"
+#include "text/string-helper.h"
 
 using kelvanequay::utils::StringHelper;
 
@@ -63,13 +63,13 @@ int FillInfo(const std::string& path, _FILE_INFO_tag& info, Find find) {
     }
     info.type = type;
 
-    LOG_DEBUG(kLogComponent, "Input file path = [%s].\n", info.path.c_str());
+    KQ_LOG_DEBUG(kLogComponent, "Input file path = [%s].\n", info.path.c_str());
     std::string spelled;
     if (const int failure = find(info.path, spelled); failure != 0) {
-        LOG_ERROR(kLogComponent, "FSPathMakeRef: %d\n", failure);
+        KQ_LOG_ERROR(kLogComponent, "FSPathMakeRef: %d\n", failure);
         return -1;
     }
-    LOG_DEBUG(kLogComponent, "FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
+    KQ_LOG_DEBUG(kLogComponent, "FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
     info.name = FSBaseName(spelled);
     info.path = std::move(spelled);
     return 0;

@@ -1,4 +1,4 @@
-#include "tmp-name.h"
+#include "file/tmp-name.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -8,10 +8,10 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "file-op.h"
-#include "handles.h"
-#include "internal.h"
-#include "log-statement.h"
+#include "file/file-op.h"
+#include "file/internal.h"
+#include "log/log-statement.h"
+#include "posix/handles.h"
 
 namespace {
 
@@ -63,7 +63,7 @@ int FSMktemp(const std::string& folder, std::string& outPath) {
     Fd file(mkostemp(buffer, O_CLOEXEC));
     if (!file) {
         const int error = errno;
-        LOG_ERROR(kLogComponent, "mkstemp(%s): %s\n", buffer, std::strerror(error));
+        KQ_LOG_ERROR(kLogComponent, "mkstemp(%s): %s\n", buffer, std::strerror(error));
         return -1;
     }
     file.close();

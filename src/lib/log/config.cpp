@@ -1,4 +1,4 @@
-#include "config.h"
+#include "log/config.h"
 
 #include <sys/stat.h>
 

@@ -1,4 +1,4 @@
-#include "log-file.h"
+#include "log/log-file.h"
 
 std::string toXString(const std::string& path) {
     return path;

@@ -13,7 +13,3 @@ template <typename Char>
 std::FILE* xfopen(const std::basic_string<Char>& path);
 template <>
 std::FILE* xfopen<char>(const std::string& path);
-
-// Keeps child processes from inheriting an open stream, where the platform lets them; called after each successful
-// open of the log file. The stream stays the caller's. A failure is not reported: the stream is then inherited.
-void SetHandleFlagInheritFalse(std::FILE* stream);

@@ -1,4 +1,4 @@
-#include "log-statement.h"
+#include "log/log-statement.h"
 
 #include <unistd.h>
 

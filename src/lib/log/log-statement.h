@@ -1,12 +1,12 @@
 // The one form that every log statement of the system has.
 //
-// LOG_ERROR(component, text, ...) and its four siblings ask Logger::IsNeedToLog first and evaluate the message's
+// KQ_LOG_ERROR(component, text, ...) and its four siblings ask Logger::IsNeedToLog first and evaluate the message's
 // arguments only after a yes. The text is a printf format; it brings its own newline.
 //
-//     LOG_ERROR("service_debug", "failed to create folder: '%s'\n", folder.c_str());
+//     KQ_LOG_ERROR("service_debug", "failed to create folder: '%s'\n", folder.c_str());
 #pragma once
 
-#include "logger.h"
+#include "log/logger.h"
 
 namespace log_statement {
 
@@ -30,7 +30,7 @@ constexpr const char* FileName(const char* path) {
 
 }  // namespace log_statement
 
-#define LOG_STATEMENT(level, tag, component, text, ...)                                                     \
+#define KQ_LOG_STATEMENT(level, tag, component, text, ...)                                                  \
     do {                                                                                                    \
         if (Logger::IsNeedToLog(level, component)) {                                                        \
             Logger::LogMsg(level, component, "(%5d:%5d) " tag " %s(%d): " text, log_statement::ProcessId(), \
@@ -39,8 +39,8 @@ constexpr const char* FileName(const char* path) {
         }                                                                                                   \
     } while (false)
 
-#define LOG_ERROR(component, ...) LOG_STATEMENT(Logger::LEVEL_ERROR, "[ERROR]", component, __VA_ARGS__)
-#define LOG_WARNING(component, ...) LOG_STATEMENT(Logger::LEVEL_WARNING, "[WARNING]", component, __VA_ARGS__)
-#define LOG_NOTE(component, ...) LOG_STATEMENT(Logger::LEVEL_NOTE, "[NOTE]", component, __VA_ARGS__)
-#define LOG_INFO(component, ...) LOG_STATEMENT(Logger::LEVEL_INFO, "[INFO]", component, __VA_ARGS__)
-#define LOG_DEBUG(component, ...) LOG_STATEMENT(Logger::LEVEL_DEBUG, "[DEBUG]", component, __VA_ARGS__)
+#define KQ_LOG_ERROR(component, ...) KQ_LOG_STATEMENT(Logger::LEVEL_ERROR, "[ERROR]", component, __VA_ARGS__)
+#define KQ_LOG_WARNING(component, ...) KQ_LOG_STATEMENT(Logger::LEVEL_WARNING, "[WARNING]", component, __VA_ARGS__)
+#define KQ_LOG_NOTE(component, ...) KQ_LOG_STATEMENT(Logger::LEVEL_NOTE, "[NOTE]", component, __VA_ARGS__)
+#define KQ_LOG_INFO(component, ...) KQ_LOG_STATEMENT(Logger::LEVEL_INFO, "[INFO]", component, __VA_ARGS__)
+#define KQ_LOG_DEBUG(component, ...) KQ_LOG_STATEMENT(Logger::LEVEL_DEBUG, "[DEBUG]", component, __VA_ARGS__)

@@ -1,4 +1,4 @@
-#include "logger.h"
+#include "log/logger.h"
 
 #include <sys/stat.h>
 #include <syslog.h>
@@ -9,8 +9,9 @@
 #include <ctime>
 #include <new>
 
-#include "config.h"
-#include "log-file.h"
+#include "log/config.h"
+#include "log/log-file.h"
+#include "platform/inheritance.h"
 
 namespace {
 

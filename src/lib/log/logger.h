@@ -1,5 +1,5 @@
 // The log facility of the process: levels per component, one destination, and a log file that rotates itself.
-// Code that logs includes log-statement.h and uses LOG_ERROR and its siblings.
+// Code that logs includes log-statement.h and uses KQ_LOG_ERROR and its siblings.
 #pragma once
 
 #include <pthread.h>

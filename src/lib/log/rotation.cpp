@@ -1,8 +1,9 @@
 #include <array>
 #include <cerrno>
 
-#include "log-file.h"
-#include "logger.h"
+#include "log/log-file.h"
+#include "log/logger.h"
+#include "platform/inheritance.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "dpi-info.h"
+#include "pier/dpi-info.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QScreen>
 
-#include "unscaled-dots-per-inch.h"
+#include "platform/screen.h"
 
 DPIinfo* DPIinfo::getInstance() {
     static DPIinfo instance;
@@ -13,7 +13,7 @@ DPIinfo* DPIinfo::getInstance() {
 
 double DPIinfo::getDPI() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen == nullptr ? 1.0 : screen->logicalDotsPerInch() / kUnscaledDotsPerInch;
+    return screen == nullptr ? 1.0 : screen->logicalDotsPerInch() / platform::kUnscaledDotsPerInch;
 }
 
 QString DPIinfo::getScaledStyleSheet(QString styleSheet) const {

@@ -1,4 +1,4 @@
-#include "path-manager.h"
+#include "pier/path-manager.h"
 
 UIPathManager* UIPathManager::getInstance() {
     static UIPathManager instance;

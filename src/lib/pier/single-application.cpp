@@ -1,4 +1,4 @@
-#include "single-application.h"
+#include "pier/single-application.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -12,8 +12,6 @@
 #include <QStringList>
 #include <cerrno>
 #include <cstdio>
-
-#include "path-encoding.h"
 
 namespace {
 
@@ -69,24 +67,9 @@ int OpenLockFile(const QByteArray& path) {
     return -1;
 }
 
-// Qt warns of what it finds odd about the machine: no XDG_RUNTIME_DIR, a character set that is not UTF-8. That is none
-// of the user's business, and a program that goes on well says nothing. What ends the program is still told.
-void DropWarnings(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (type == QtCriticalMsg || type == QtFatalMsg) {
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
-    }
-}
-
-// What must be settled before Qt's first look at the machine, which it takes while the application is being built.
-int& Prepare(int& argc) {
-    qInstallMessageHandler(DropWarnings);
-    UsePathsInUtf8();
-    return argc;
-}
-
 }  // namespace
 
-QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui) : QApplication(Prepare(argc), argv) {
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui) : QApplication(argc, argv) {
     Q_UNUSED(gui)
 }
 

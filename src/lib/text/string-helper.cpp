@@ -1,4 +1,4 @@
-#include "string-helper.h"
+#include "text/string-helper.h"
 
 #include <unicode/unorm2.h>
 #include <unicode/ustring.h>

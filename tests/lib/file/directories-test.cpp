@@ -4,7 +4,7 @@
 #include <map>
 
 #include "file-op-test.h"
-#include "internal.h"
+#include "file/internal.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <sstream>
 #include <string>
 
-#include "file-op.h"
-#include "logger.h"
+#include "file/file-op.h"
+#include "log/logger.h"
 #include "test-folder.h"
 
 namespace fs = std::filesystem;

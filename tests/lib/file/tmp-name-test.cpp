@@ -1,4 +1,4 @@
-#include "tmp-name.h"
+#include "file/tmp-name.h"
 
 #include <algorithm>
 #include <thread>

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "log-statement.h"
+#include "log/log-statement.h"
 
 namespace {
 
@@ -43,8 +43,8 @@ TEST_F(LogAllocationTest, ADisabledStatementTakesNothing) {
     ASSERT_GT(allocations, at_first);
 
     const long before = allocations;
-    LOG_DEBUG("extractor_debug", "text\n");  // 15 characters, the longest name
-    LOG_INFO("launcher_debug", "%s\n", std::string(100, 'x').c_str());
+    KQ_LOG_DEBUG("extractor_debug", "text\n");  // 15 characters, the longest name
+    KQ_LOG_INFO("launcher_debug", "%s\n", std::string(100, 'x').c_str());
     EXPECT_EQ(allocations, before);
 }
 

@@ -10,7 +10,7 @@
 #include <filesystem>
 
 #include "fake-system.h"
-#include "log-statement.h"
+#include "log/log-statement.h"
 
 namespace {
 
@@ -108,9 +108,9 @@ TEST_F(LoggerTest, StartsOpenWithWarningsToStandardError) {
     std::string output;
     const std::string error = StandardErrorOf([&] {
         output = StandardOutputOf([] {
-            LOG_INFO("launcher_debug", "info\n");
-            LOG_WARNING("launcher_debug", "warning\n");
-            LOG_ERROR("launcher_debug", "error\n");
+            KQ_LOG_INFO("launcher_debug", "info\n");
+            KQ_LOG_WARNING("launcher_debug", "warning\n");
+            KQ_LOG_ERROR("launcher_debug", "error\n");
         });
     });
     EXPECT_EQ(output, "");
@@ -191,11 +191,11 @@ TEST_F(LoggerTest, ALineFieldByField) {
     Write(At("levels"), "file_op_debug=7\n");
     ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, LogPath(), At("levels"), 50, Logger::SCOPE_THREAD), 0);
     const int line = __LINE__ + 1;
-    LOG_ERROR("file_op_debug", "text\n");
-    LOG_WARNING("file_op_debug", "%s of %d\n", "text", 2);
-    LOG_NOTE("file_op_debug", "text\n");
-    LOG_INFO("file_op_debug", "100%%\n");
-    LOG_DEBUG("file_op_debug", "text\n");
+    KQ_LOG_ERROR("file_op_debug", "text\n");
+    KQ_LOG_WARNING("file_op_debug", "%s of %d\n", "text", 2);
+    KQ_LOG_NOTE("file_op_debug", "text\n");
+    KQ_LOG_INFO("file_op_debug", "100%%\n");
+    KQ_LOG_DEBUG("file_op_debug", "text\n");
 
     char origin[64];
     std::snprintf(origin, sizeof(origin), "\\(%5d:%5d\\) ", getpid(),
@@ -299,7 +299,7 @@ TEST_F(LoggerTest, AMessageThatCanNotBeFormattedCountsOneLess) {
 TEST_F(LoggerTest, AMessageLeavesErrnoAsItWas) {
     const auto log = [] {
         errno = EXDEV;
-        LOG_ERROR("c", "text\n");
+        KQ_LOG_ERROR("c", "text\n");
         return errno;
     };
     const char* const zones[] = {nullptr, "", "UTC0", ":/missing/zone", "No/Such/Zone", ":"};
@@ -381,9 +381,9 @@ TEST_F(LoggerTest, LevelFiles) {
 TEST_F(LoggerTest, ADisabledStatementDoesNotEvaluateItsArguments) {
     OpenLog();
     int evaluated = 0;
-    LOG_DEBUG("service_debug", "%d\n", ++evaluated);
+    KQ_LOG_DEBUG("service_debug", "%d\n", ++evaluated);
     EXPECT_EQ(evaluated, 0);
-    LOG_WARNING("service_debug", "%d\n", ++evaluated);
+    KQ_LOG_WARNING("service_debug", "%d\n", ++evaluated);
     EXPECT_EQ(evaluated, 1);
 }
 

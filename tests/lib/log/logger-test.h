@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "logger.h"
+#include "log/logger.h"
 
 // The logger's state, as tests read and preset it.
 struct LoggerInspector {

@@ -2,9 +2,9 @@
 
 #include <QLocale>
 
-#include "dpi-info.h"
-#include "kelvane-locale.h"
-#include "path-manager.h"
+#include "pier/dpi-info.h"
+#include "pier/kelvane-locale.h"
+#include "pier/path-manager.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "file-reference.h"
+#include "platform/file-reference.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "name-spelling.h"
+#include "platform/linux/name-spelling.h"
 #include "test-folder.h"
 #include "volume.h"
 

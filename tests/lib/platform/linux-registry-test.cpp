@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "application-registry.h"
-#include "desktop-entry.h"
+#include "platform/application-registry.h"
+#include "platform/linux/desktop-entry.h"
 #include "test-folder.h"
 
 namespace fs = std::filesystem;

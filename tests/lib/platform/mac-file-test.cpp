@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "file-reference.h"
-#include "volume-type.h"
+#include "platform/file-reference.h"
+#include "platform/volume-type.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-#include "application-registry.h"
+#include "platform/application-registry.h"
 
 namespace {
 

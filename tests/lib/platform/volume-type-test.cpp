@@ -1,8 +1,8 @@
-#include "volume-type.h"
+#include "platform/volume-type.h"
 
 #include <gtest/gtest.h>
 
-#include "volume-magic.h"
+#include "platform/linux/volume-magic.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "string-helper.h"
+#include "text/string-helper.h"
 
 #include <gtest/gtest.h>
 

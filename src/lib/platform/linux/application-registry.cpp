@@ -1,4 +1,4 @@
-#include "application-registry.h"
+#include "platform/application-registry.h"
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -11,7 +11,7 @@
 #include <QStringList>
 #include <csignal>
 
-#include "desktop-entry.h"
+#include "platform/linux/desktop-entry.h"
 
 namespace platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop-entry.h"
+#include "platform/linux/desktop-entry.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "file-reference.h"
+#include "platform/file-reference.h"
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -10,7 +10,7 @@
 #include <memory>
 #include <utility>
 
-#include "name-spelling.h"
+#include "platform/linux/name-spelling.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "name-spelling.h"
+#include "platform/linux/name-spelling.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>

@@ -1,4 +1,4 @@
-#include "application-registry.h"
+#include "platform/application-registry.h"
 
 #include <QProcess>
 #include <QStringList>

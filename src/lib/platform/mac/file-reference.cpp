@@ -1,4 +1,4 @@
-#include "file-reference.h"
+#include "platform/file-reference.h"
 
 #include <CoreServices/CoreServices.h>
 

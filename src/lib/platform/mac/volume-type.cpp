@@ -1,4 +1,4 @@
-#include "volume-type.h"
+#include "platform/volume-type.h"
 
 #include <sys/param.h>
 // After sys/param.h, as statfs(2) has it.

@@ -1,6 +1,6 @@
 #include <QLocale>
 
-#include "kelvane-locale.h"
+#include "pier/kelvane-locale.h"
 
 namespace {
 

@@ -1,0 +1,3 @@
+#include "platform/screen.h"
+
+const double platform::kUnscaledDotsPerInch = 96.0;

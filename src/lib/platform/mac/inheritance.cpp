@@ -1,0 +1,4 @@
+#include "platform/inheritance.h"
+
+void SetHandleFlagInheritFalse(std::FILE* /*stream*/) {
+}

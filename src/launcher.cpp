@@ -107,6 +107,8 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), progressDialog(nullptr
     progressDialog->setAutoReset(false);
     // Clears the dialog's window modality as well, so that setting a value never serves the event loop from inside.
     progressDialog->setModal(false);
+    // Esc closes the dialog even so, and the application's last window with it: the work goes on until LaunchDone.
+    QApplication::setQuitOnLastWindowClosed(false);
 
     connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
     connect(worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);

@@ -83,4 +83,14 @@ TEST_F(DialogTest, IsNotShownWhenNothingIsToDoAndSaysNothingOfAFailure) {
     EXPECT_EQ(seen[1].find("hide|Kelvane Quay Client|Kelvane Quay Client is initializing...|100|"), 0U) << seen[1];
 }
 
+TEST_F(DialogTest, ClosedFromTheKeyboardItChangesNothing) {
+    LayBundle(1000);
+    environment_["KQ_PROBE_KEYS"] = "1";
+    ExpectLaunched(Launch(), 1000);
+    EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), ClientTree(1000));
+    const std::vector<std::string> seen = Seen();
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_EQ(seen[1].find("hide|"), 0U) << seen[1];
+}
+
 }  // namespace

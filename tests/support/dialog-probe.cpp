@@ -1,12 +1,14 @@
 // Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads when
 // QT_QPA_GENERIC_PLUGINS names it. On each showing and hiding of a progress dialog it appends a line to the file that
 // KQ_PROBE_FILE names: what happened, the title, the label, the value, the font's family and size, and the same title,
-// label and value as a screen reader gets them, separated by "|".
+// label and value as a screen reader gets them, separated by "|". Where KQ_PROBE_KEYS is set, it presses Esc as soon as
+// the dialog is there, and closes it once more.
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
 #include <QGenericPlugin>
+#include <QKeyEvent>
 #include <QProgressDialog>
 
 namespace {
@@ -43,6 +45,10 @@ public:
             QFile file(qEnvironmentVariable("KQ_PROBE_FILE"));
             if (file.open(QIODevice::Append)) {
                 file.write(line.join(QLatin1Char('|')).toUtf8() + '\n');
+            }
+            if (event->type() == QEvent::Show && qEnvironmentVariableIsSet("KQ_PROBE_KEYS")) {
+                QCoreApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+                QMetaObject::invokeMethod(dialog, "close", Qt::QueuedConnection);
             }
         }
         return false;

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QLocale>
+#include <QPalette>
 #include <QTimer>
 #include <climits>
 
@@ -20,6 +22,15 @@ constexpr char kComponent[] = "launcher_debug";
 // The size of the dialog on an unscaled screen.
 constexpr double kDialogWidth = 400.0;
 constexpr double kDialogHeight = 80.0;
+
+// Colours that can be read on the style sheet's WhiteSmoke: black text on light ground, and a bar that is dark enough
+// for white text.
+QPalette PaletteOnWhiteSmoke() {
+    QPalette palette(Qt::lightGray, QColor(0xF5, 0xF5, 0xF5));
+    palette.setColor(QPalette::Highlight, QColor(0x1A, 0x55, 0x96));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
 
 }  // namespace
 
@@ -40,6 +51,15 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     setFixedSize(width, height);
     setStyleSheet(DPIinfo::getInstance()->getScaledStyleSheet(
         QStringLiteral("QProgressDialog { background-color: WhiteSmoke; vertical-align: middle; }")));
+    // No language that the dialog speaks writes numbers in digits of its own, as some systems' locales do.
+    setLocale(QLocale::c());
+    // The sheet says nothing of the text, which would take the desktop's colour: white, where that is dark. The parts
+    // get the palette one by one, since a desktop may have one of its own for labels or bars.
+    const QPalette palette = PaletteOnWhiteSmoke();
+    setPalette(palette);
+    for (QWidget* part : findChildren<QWidget*>()) {
+        part->setPalette(palette);
+    }
 }
 
 ProcessingProgressDialog::~ProcessingProgressDialog() = default;

@@ -1,7 +1,8 @@
-// Renders the real dialog in every language and looks whether its text fits.
+// Renders the real dialog in every language on desktops of several colours and looks whether its text fits and can be
+// read.
 //
-//   dialog-sheet render FOLDER     a picture for each language and state at the scale of this screen; exit 1, with a
-//                                  line for each, where a text does not fit its place
+//   dialog-sheet render FOLDER     a picture for each language, state and desktop at the scale of this screen; exit 1,
+//                                  with a line for each, where a text does not fit its place or is too faint
 //   dialog-sheet compose FOLDER FILE    puts the pictures of all scales in FOLDER on one sheet
 //
 // QT_FONT_DPI sets the scale: 96, 120, 144, 192 are 1.0, 1.25, 1.5, 2.0. Run by scripts/dialog-sheet.
@@ -11,12 +12,15 @@
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
+#include <QPalette>
 #include <QProgressBar>
 #include <QRawFont>
 #include <QTextLayout>
 #include <QTranslator>
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
-#include <memory>
+#include <map>
 
 #include "launcher.h"
 #include "pier/dpi-info.h"
@@ -36,8 +40,72 @@ constexpr State kStates[] = {
     {StrTable::kRowInitializing, 0}, {StrTable::kRowInitializing, 42}, {StrTable::kRowReady, 100}};
 constexpr const char* kScales[] = {"1.00", "1.25", "1.50", "2.00"};
 
-QString FileName(const QString& folder, const char* code, int value, const QString& scale) {
-    return QStringLiteral("%1/%2-%3-%4.png").arg(folder, QLatin1String(code)).arg(value).arg(scale);
+struct Desktop {
+    const char* name;
+    QRgb ground;
+    QRgb text;
+    QRgb highlight;
+};
+constexpr Desktop kDesktops[] = {
+    {"light", 0xFFEFEFEF, 0xFF000000, 0xFF308CC6},
+    {"dark", 0xFF2A2A2E, 0xFFFFFFFF, 0xFF5294E2},
+    {"high-contrast", 0xFF000000, 0xFFFFFF00, 0xFF00FFFF},
+};
+constexpr std::size_t kDark = 1;
+
+// What text needs to be read with weak eyes. Source: WCAG 2.1, 1.4.3.
+constexpr double kLeastContrast = 4.5;
+
+QString FileName(const QString& folder, const char* code, int value, const QString& kind) {
+    return QStringLiteral("%1/%2-%3-%4.png").arg(folder, QLatin1String(code)).arg(value).arg(kind);
+}
+
+// What a file's name says of scale and desktop.
+QString Kind(const QString& scale, const Desktop& desktop) {
+    return scale + QLatin1Char('-') + QLatin1String(desktop.name);
+}
+
+// Gives the application the colours of a desktop, labels and bars by name too, as some desktops do.
+void GoTo(const Desktop& desktop) {
+    QPalette palette(QColor(desktop.ground), QColor(desktop.ground));
+    palette.setColor(QPalette::WindowText, QColor(desktop.text));
+    palette.setColor(QPalette::Text, QColor(desktop.text));
+    palette.setColor(QPalette::Highlight, QColor(desktop.highlight));
+    palette.setColor(QPalette::HighlightedText, QColor(desktop.ground));
+    for (const char* of : {static_cast<const char*>(nullptr), "QLabel", "QProgressBar"}) {
+        QApplication::setPalette(palette, of);
+    }
+}
+
+// The contrast of two colours, 1 to 21. Source: WCAG 2.1, "contrast ratio".
+double Contrast(QRgb one, QRgb other) {
+    const auto luminance = [](QRgb colour) {
+        const auto linear = [](int value) {
+            const double part = value / 255.0;
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+    };
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return qMax(a, b) / qMin(a, b);
+}
+
+// The contrast between the ground of a text, which is its picture's most frequent colour, and the strongest other.
+double TextContrast(const QImage& text) {
+    std::map<QRgb, int> colours;
+    for (int y = 0; y < text.height(); ++y) {
+        for (int x = 0; x < text.width(); ++x) {
+            ++colours[text.pixel(x, y)];
+        }
+    }
+    const auto ground = std::max_element(colours.begin(), colours.end(),
+                                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    double strongest = 1;
+    for (const auto& colour : colours) {
+        strongest = qMax(strongest, Contrast(ground->first, colour.first));
+    }
+    return strongest;
 }
 
 // The dialog of a launcher that was set up as main() does it.
@@ -89,9 +157,60 @@ bool Fits(const QProgressDialog& dialog, const char* code) {
     return fits;
 }
 
+// Whether label, percentage and bar stand out from what is behind them; says what does not.
+bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const char* code, const char* desktop) {
+    const auto* label = dialog.findChild<QLabel*>();
+    const auto* bar = dialog.findChild<QProgressBar*>();
+    const QFontMetrics metrics(bar->font());
+    QRect percentage(0, 0, metrics.horizontalAdvance(bar->text()), metrics.ascent() - metrics.descent());
+    percentage.moveCenter(bar->geometry().center());
+    const QPoint done(bar->x() + bar->width() / 5, bar->geometry().center().y());
+    const QPoint open(bar->x() + bar->width() * 4 / 5, done.y());
+    // An empty or full bar has one colour.
+    const bool isPartial = bar->value() > bar->minimum() && bar->value() < bar->maximum();
+
+    const std::pair<const char*, double> parts[] = {
+        {"label", TextContrast(picture.copy(label->geometry()))},
+        {"percentage", TextContrast(picture.copy(percentage))},
+        {"bar", isPartial ? Contrast(picture.pixel(done), picture.pixel(open)) : kLeastContrast},
+    };
+    bool readable = true;
+    for (const auto& [part, contrast] : parts) {
+        if (contrast < kLeastContrast) {
+            std::printf("%s: on a %s desktop the %s at %d%% has a contrast of %.1f, needs %.1f\n", code, desktop, part,
+                        bar->value(), contrast, kLeastContrast);
+            readable = false;
+        }
+    }
+    return readable;
+}
+
+// Renders the dialog in the language that is installed, on a desktop. 0, 1 for a fault, 2 where the folder can't be
+// written.
+int RenderOn(const Desktop& desktop, const char* code, const QString& folder, const QString& scale) {
+    GoTo(desktop);
+    Launcher launcher;
+    ProcessingProgressDialog* dialog = DialogOf(launcher);
+    launcher.ShowMsgBox();
+    int result = 0;
+    for (const State& state : kStates) {
+        launcher.SetLabelText(StrTable::LoadStrWithAppName(state.row));
+        launcher.UpdateProgress(100, state.value);
+        const QImage picture = dialog->grab().toImage();
+        if (!Fits(*dialog, code) || !IsReadable(*dialog, picture, code, desktop.name)) {
+            result = 1;
+        }
+        if (!picture.save(FileName(folder, code, state.value, Kind(scale, desktop)))) {
+            std::fprintf(stderr, "can't write to %s\n", qPrintable(folder));
+            return 2;
+        }
+    }
+    return result;
+}
+
 int Render(const QString& folder) {
     const QString scale = QString::number(DPIinfo::getInstance()->getDPI(), 'f', 2);
-    bool fits = true;
+    int result = 0;
     for (const char* code : kLanguages) {
         QTranslator catalog;
         if (!catalog.load(QStringLiteral(":/%1.qm").arg(QLatin1String(code)))) {
@@ -102,42 +221,34 @@ int Render(const QString& folder) {
         const bool thai = QLatin1String(code) == QLatin1String("tha");
         QApplication::setFont(
             QFont(thai ? QStringLiteral("Microsoft Sans Serif") : QStringLiteral("Arial"), 12, -1, false));
-        Launcher launcher;
-        ProcessingProgressDialog* dialog = DialogOf(launcher);
-        launcher.ShowMsgBox();
-        for (const State& state : kStates) {
-            launcher.SetLabelText(
-                StrTable::LoadStr(state.row).arg(StrTable::LoadStr(StrTable::kRowAppName), 0, QLatin1Char(' ')));
-            launcher.UpdateProgress(100, state.value);
-            fits = Fits(*dialog, code) && fits;
-            if (!dialog->grab().save(FileName(folder, code, state.value, scale))) {
-                std::fprintf(stderr, "can't write to %s\n", qPrintable(folder));
-                return 2;
-            }
+        for (const Desktop& desktop : kDesktops) {
+            result = qMax(result, RenderOn(desktop, code, folder, scale));
         }
         QCoreApplication::removeTranslator(&catalog);
     }
-    std::printf("scale %s: %s\n", qPrintable(scale), fits ? "every text fits" : "see above");
-    return fits ? 0 : 1;
+    std::printf("scale %s: %s\n", qPrintable(scale), result == 0 ? "every text fits and can be read" : "see above");
+    return result;
 }
 
-// One row a language; the three states at scale 1, then the state in the middle at the other scales, all reduced.
+// One row a language; the three states at scale 1, the one in the middle on a dark desktop and at the other scales, all
+// reduced.
 int Compose(const QString& folder, const QString& file) {
     constexpr int kGap = 8;
     constexpr int kNameWidth = 48;
     constexpr double kReduction = 0.55;
     std::vector<std::pair<int, QString>> columns;
     for (const State& state : kStates) {
-        columns.emplace_back(state.value, QLatin1String(kScales[0]));
+        columns.emplace_back(state.value, Kind(QLatin1String(kScales[0]), kDesktops[0]));
     }
+    columns.emplace_back(42, Kind(QLatin1String(kScales[0]), kDesktops[kDark]));
     for (std::size_t at = 1; at < std::size(kScales); ++at) {
-        columns.emplace_back(42, QLatin1String(kScales[at]));
+        columns.emplace_back(42, Kind(QLatin1String(kScales[at]), kDesktops[0]));
     }
     int width = kNameWidth;
     int height = 0;
     std::vector<int> at;
-    for (const auto& [value, scale] : columns) {
-        const QImage picture(FileName(folder, kLanguages[0], value, scale));
+    for (const auto& [value, kind] : columns) {
+        const QImage picture(FileName(folder, kLanguages[0], value, kind));
         at.push_back(width);
         width += static_cast<int>(picture.width() * kReduction) + kGap;
         height = qMax(height, static_cast<int>(picture.height() * kReduction) + kGap);
@@ -155,6 +266,11 @@ int Compose(const QString& folder, const QString& file) {
             if (picture.isNull()) {
                 std::fprintf(stderr, "no picture of %s at %s\n", code, qPrintable(columns[column].second));
                 return 2;
+            }
+            if (columns[column].second.endsWith(QLatin1String(kDesktops[kDark].name))) {
+                painter.fillRect(at[column] - kGap / 2, y - kGap / 2,
+                                 static_cast<int>(picture.width() * kReduction) + kGap, height,
+                                 QColor(kDesktops[kDark].ground));
             }
             painter.drawImage(
                 at[column], y,

@@ -83,6 +83,37 @@ TEST_F(DialogTest, IsNotShownWhenNothingIsToDoAndSaysNothingOfAFailure) {
     EXPECT_EQ(seen[1].find("hide|Kelvane Quay Client|Kelvane Quay Client is initializing...|100|"), 0U) << seen[1];
 }
 
+TEST_F(DialogTest, WithoutAScreenTheClientStartsAllTheSame) {
+    const struct {
+        const char* variable;
+        const char* value;
+        const char* complaint;  // of a library that stays below Qt
+    } cases[] = {
+        {"KQ_NONE", "", ""},
+        {"DISPLAY", ":4095", ""},
+        {"WAYLAND_DISPLAY", "nobody", "Failed to create wl_display (No such file or directory)\n"},
+        {"QT_QPA_PLATFORM", "xcb", ""},
+        {"QT_QPA_PLATFORM", "no-such-platform", ""},
+        {"QT_QPA_PLATFORMTHEME", "gtk3", ""},
+        {"QT_STYLE_OVERRIDE", "gtk2", ""},
+    };
+    environment_.erase("QT_QPA_PLATFORM");
+    int build = 1000;
+    for (const auto& entry : cases) {
+        SCOPED_TRACE(std::string(entry.variable) + "=" + entry.value);
+        const Environment before = environment_;
+        environment_[entry.variable] = entry.value;
+        LayBundle(++build);
+        Outcome outcome = Launch();
+        // Only where Qt's Wayland is installed is there anybody to complain.
+        if (outcome.errors == entry.complaint) {
+            outcome.errors.clear();
+        }
+        ExpectLaunched(outcome, build);
+        environment_ = before;
+    }
+}
+
 TEST_F(DialogTest, ClosedFromTheKeyboardItChangesNothing) {
     LayBundle(1000);
     environment_["KQ_PROBE_KEYS"] = "1";

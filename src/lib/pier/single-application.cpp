@@ -12,8 +12,35 @@
 #include <QStringList>
 #include <cerrno>
 #include <cstdio>
+#include <string>
+#include <vector>
+
+#include "platform/screen.h"
 
 namespace {
+
+// The arguments as Qt gets them: the system's options between the program's name and the user's own.
+struct Arguments {
+    Arguments(int argc, char** argv) : options(platform::ScreenOptions()), values(argv, argv + argc) {
+        std::vector<char*> added;
+        for (std::string& option : options) {
+            added.push_back(option.data());
+        }
+        values.insert(values.begin() + qMin(argc, 1), added.begin(), added.end());
+        count = static_cast<int>(values.size());
+        values.push_back(nullptr);
+    }
+
+    std::vector<std::string> options;
+    std::vector<char*> values;
+    int count = 0;
+};
+
+// They stay until the process ends, as Qt asks; only the first call's are taken.
+Arguments& ForQt(int argc, char** argv) {
+    static Arguments arguments(argc, argv);
+    return arguments;
+}
 
 // Whether the folder is this user's and nobody else may write it: what lies in it is then no stranger's doing.
 bool IsPrivate(const QString& folder) {
@@ -69,7 +96,8 @@ int OpenLockFile(const QByteArray& path) {
 
 }  // namespace
 
-QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui) : QApplication(argc, argv) {
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui)
+    : QApplication(ForQt(argc, argv).count, ForQt(argc, argv).values.data()) {
     Q_UNUSED(gui)
 }
 

@@ -1,3 +1,11 @@
 #include "platform/screen.h"
 
-const double platform::kUnscaledDotsPerInch = 72.0;
+namespace platform {
+
+const double kUnscaledDotsPerInch = 72.0;
+
+std::vector<std::string> ScreenOptions() {
+    return {};
+}
+
+}  // namespace platform

@@ -10,8 +10,10 @@
 #include <QSignalSpy>
 
 #include "notify-adapter.h"
+#include "path-table.h"
 #include "pier/dpi-info.h"
 #include "resources/str-table.h"
+#include "test-folder.h"
 
 namespace {
 
@@ -86,6 +88,8 @@ TEST(LauncherTest, ShowsWhatTheAdapterReportsFromAnotherThread) {
 
     launcher.UpdateProgress(100, 100);
     EXPECT_TRUE(dialog->isVisible()) << "the full bar stays until the end of the run";
+    launcher.UpdateProgress(1, 42949673);
+    EXPECT_EQ(dialog->value(), 4) << "the product wraps in 32 bits";
 }
 
 TEST(LauncherTest, ReachesThoseWhoCannotSeeTheDialog) {
@@ -121,6 +125,41 @@ TEST(LauncherTest, ClosingTheDialogChangesNothingInTheWork) {
     launcher.UpdateProgress(100, 50);
     launcher.SetLabelText(Text("still at work"));
     EXPECT_EQ(TheDialog()->labelText(), Text("still at work"));
+}
+
+class WorkTest : public FolderTest {};
+
+TEST_F(WorkTest, IsDoneOnceInWhateverOrder) {
+    const struct {
+        const char* order;
+        void (*steps)(Launcher& launcher);
+    } kOrders[] = {
+        {"run, start",
+         [](Launcher& launcher) {
+             launcher.Run();
+             launcher.Start();
+         }},
+        {"start, run",
+         [](Launcher& launcher) {
+             launcher.Start();
+             QCoreApplication::processEvents();
+             launcher.Run();
+         }},
+    };
+    StrTable::InitStrTable();
+    FillPathTable(QString::fromStdString(At("home")), QString::fromStdString(At("bundle/Contents/MacOS")));
+    for (const auto& [order, steps] : kOrders) {
+        const std::string log = StandardErrorOf([run = steps] {
+            Launcher launcher;
+            run(launcher);
+            QApplication::exec();
+            QCoreApplication::processEvents();
+        });
+        // The bundle has no package: each time the work is done, one line tells of the failed upgrade.
+        const std::string line = "Failed to upgrade package\n";
+        EXPECT_NE(log.find(line), std::string::npos) << order << ": " << log;
+        EXPECT_EQ(log.find(line), log.rfind(line)) << order << ": " << log;
+    }
 }
 
 }  // namespace

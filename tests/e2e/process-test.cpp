@@ -182,6 +182,8 @@ TEST_F(ProcessTest, WithoutARuntimeFolderTheInstancesStillMeet) {
 }
 
 TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
+    environment_["TMPDIR"] = At("tmp");
+    fs::create_directory(At("tmp"));
     LayBundle(1000);
     ExpectLaunched(Launch(), 1000);
     std::string lock;
@@ -212,13 +214,14 @@ TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
         LayBundle(++build);
         ExpectLaunched(Launch(), build);
     }
-    // A folder that others can write is no place for a lock.
+    EXPECT_TRUE(fs::is_empty(At("tmp")));
+    // A folder that others can write is no place for a lock: one of our own is made.
     fs::permissions(At("run"), fs::perms::all);
     fs::remove(lock);
-    environment_["TMPDIR"] = folder();
     LayBundle(++build);
     ExpectLaunched(Launch(), build);
     EXPECT_FALSE(fs::exists(lock));
+    EXPECT_FALSE(fs::is_empty(At("tmp")));
 }
 
 TEST_F(ProcessTest, WithoutAThreadTheWorkIsDoneAllTheSame) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
@@ -12,9 +13,6 @@
 #include "resources/texts.h"
 
 namespace {
-
-constexpr const char* kLanguages[] = {"chs", "cht", "csy", "dan", "enu", "fre", "ger", "hun", "ita", "jpn", "krn",
-                                      "nld", "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "tha", "trk"};
 
 int RowsWith(const char* text) {
     int rows = 0;
@@ -117,14 +115,14 @@ TEST_F(StrTableTest, EscapesInATranslationBecomeControlCharacters) {
 }
 
 TEST_F(StrTableTest, EveryCatalogHasEveryText) {
-    for (const char* code : kLanguages) {
-        SCOPED_TRACE(code);
+    for (const QFileInfo& file : QDir(QStringLiteral(":/")).entryInfoList({QStringLiteral("*.qm")})) {
+        SCOPED_TRACE(file.fileName().toStdString());
         QTranslator catalog;
-        ASSERT_TRUE(catalog.load(QStringLiteral(":/%1.qm").arg(QLatin1String(code))));
+        ASSERT_TRUE(catalog.load(file.filePath()));
         for (const StrTable::Row& row : StrTable::kRows) {
             const QString text = catalog.translate("global", row.text);
             EXPECT_FALSE(text.isEmpty()) << row.key;
-            if (QLatin1String(code) == QLatin1String("enu")) {
+            if (file.baseName() == QLatin1String("enu")) {
                 EXPECT_EQ(text, QString::fromUtf8(row.text));
             }
         }

@@ -1,4 +1,7 @@
-# Everything that the project stands on comes from the distribution; scripts/setup installs the packages.
+# Everything that the project stands on comes from the distribution or from Homebrew; scripts/setup installs the packages.
+if(CMAKE_HOST_APPLE)
+    include(${CMAKE_CURRENT_LIST_DIR}/homebrew.cmake)
+endif()
 find_package(Threads REQUIRED)
 find_package(LibArchive REQUIRED)
 find_package(ICU REQUIRED COMPONENTS uc)

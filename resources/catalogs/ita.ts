@@ -5,17 +5,27 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
+----------
+Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
         <translation>Eliminato</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
+        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
+----------
+Button of a connection: ends the link between this computer and the hub (verb).
+----------
+Button: ends the link between this computer and the hub (verb).
+----------
+Button: ends a task&apos;s link with the hub (verb).</extracomment>
         <translation>Scollega</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
+----------
+Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Connetti tramite Ferrylink</translation>
     </message>
     <message>
@@ -30,7 +40,9 @@
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
+        <extracomment>Heading of a message box; also the state of a task that failed.
+----------
+Status of a task.</extracomment>
         <translation>Errore</translation>
     </message>
     <message>
@@ -48,12 +60,16 @@
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard: completes the set-up.
+----------
+Button of the installer, on its last page (verb).</extracomment>
         <translation>Fine</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
+        <extracomment>Label above the path of the folder on this computer.
+----------
+Column head of the list of shared folders: where each is on this computer.</extracomment>
         <translation>Cartella locale</translation>
     </message>
     <message>
@@ -64,7 +80,7 @@
     <message>
         <source>About</source>
         <extracomment>Menu item in the tray menu: opens the box with the version and the copyright.</extracomment>
-        <translation>Informazioni su</translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -145,7 +161,9 @@
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
+----------
+Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
         <translation>Scaricato</translation>
     </message>
     <message>
@@ -155,22 +173,32 @@
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered.
+----------
+Button of the installer.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
+        <extracomment>Button: closes a box and drops what was entered.
+----------
+Button: drops the changes on the proxy page.
+----------
+Button of the installer.</extracomment>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard.
+----------
+Button of the installer: goes to the next page.</extracomment>
         <translation>Avanti</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard.
+----------
+Button of the installer: goes to the page before.</extracomment>
         <translation>Indietro</translation>
     </message>
     <message>
@@ -195,17 +223,25 @@
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
+----------
+Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
         <translation>Caricato</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
+----------
+Choice of a list of periods: the user sets one (verb).</extracomment>
         <translation>Personalizza</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
+        <extracomment>Label beside a time of day.
+----------
+Column head of the list of files: when it happened.
+----------
+Column head of the history: when it happened.</extracomment>
         <translation>Ora</translation>
     </message>
     <message>
@@ -253,7 +289,9 @@
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.</extracomment>
+        <extracomment>Message of a task, and of a notification.
+----------
+Message of a task.</extracomment>
         <translation>La quota di archiviazione sull&apos;hub è esaurita. Liberare spazio e riprovare.</translation>
     </message>
     <message>
@@ -268,7 +306,11 @@
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
+        <extracomment>Menu item in the tray menu: opens the settings.
+----------
+Button: opens the settings.
+----------
+Tab of the main window.</extracomment>
         <translation>Impostazioni</translation>
     </message>
     <message>
@@ -278,7 +320,9 @@
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
+        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
+----------
+Tab of the settings: the folders that the hub shares.</extracomment>
         <translation>Cartelle condivise</translation>
     </message>
     <message>
@@ -313,7 +357,11 @@
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside a field.</extracomment>
+        <extracomment>Label beside the field for the proxy server&apos;s password.
+----------
+Label beside a field.
+----------
+Label beside a field of a sharing link.</extracomment>
         <translation>Password</translation>
     </message>
     <message>
@@ -332,7 +380,7 @@
     <message>
         <source>Storage full</source>
         <extracomment>Status, short, in the tray: the user&apos;s space on the hub is used up.</extracomment>
-        <translation>Spazio di archiviazione esaurito</translation>
+        <translation>Spazio esaurito</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -377,7 +425,7 @@
     <message>
         <source>Enable synchronization</source>
         <extracomment>Check box for a shared folder: it is synced.</extracomment>
-        <translation>Attiva la sincronizzazione</translation>
+        <translation>Attiva sincronizzazione</translation>
     </message>
     <message>
         <source>Shared folder name</source>
@@ -386,12 +434,16 @@
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head: whether a folder or file is synced.</extracomment>
+        <extracomment>Column head of the list of shared folders: whether the folder is synced.
+----------
+Column head of the list of files: whether the file is synced.</extracomment>
         <translation>Stato</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes on the proxy page (verb).
+----------
+Button: takes over the changes (verb).</extracomment>
         <translation>Applica</translation>
     </message>
     <message>
@@ -401,7 +453,9 @@
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
+        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
+----------
+Button: opens the page on which a thing is managed (verb).</extracomment>
         <translation>Gestisci</translation>
     </message>
     <message>
@@ -411,7 +465,9 @@
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray: an unexpected error.
+----------
+Status, short, of a task: an unexpected error.</extracomment>
         <translation>Si è verificato un problema</translation>
     </message>
     <message>
@@ -432,7 +488,7 @@
     <message>
         <source>Show desktop notifications</source>
         <extracomment>Check box of the general options.</extracomment>
-        <translation>Mostra le notifiche sul desktop</translation>
+        <translation>Mostra notifiche sul desktop</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
@@ -451,7 +507,9 @@
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options, and of the display settings.</extracomment>
+        <extracomment>Check box of the general options.
+----------
+Check box of the display settings.</extracomment>
         <translation>Utilizza un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
     </message>
     <message>
@@ -537,7 +595,11 @@
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).
+----------
+Choice of a filter of the history: a type of item (noun, singular).
+----------
+Tab of a task&apos;s settings: the two folders.</extracomment>
         <translation>Cartella</translation>
     </message>
     <message>
@@ -551,7 +613,15 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
+        <extracomment>Button: takes the shared folder off the list; its files are kept.
+----------
+Button of the installer: takes the program off the computer (verb).
+----------
+Label of the installer, beside its button: takes the program off the computer (verb).
+----------
+Button: takes an entry off a list (verb).
+----------
+Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
         <translation>Rimuovi</translation>
     </message>
     <message>
@@ -565,7 +635,9 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.
+----------
+Status: state of a file before its transfer.</extracomment>
         <translation>Preparazione...</translation>
     </message>
     <message>
@@ -664,12 +736,16 @@
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
-        <translation>Modalità di sincronizzazione</translation>
+        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
+----------
+Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <translation>Modalità sync</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
+        <extracomment>Status in the tray: the task or the client was paused.
+----------
+Status of a task: the task was paused.</extracomment>
         <translation>In pausa</translation>
     </message>
     <message>
@@ -701,7 +777,11 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
+        <extracomment>Status, short: the user may not use the shared folder.
+----------
+Status, short, of a task: the user may not do this.
+----------
+Heading of the state of a task.</extracomment>
         <translation>Autorizzazione negata</translation>
     </message>
     <message>
@@ -720,7 +800,9 @@
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
+----------
+Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Ottieni link</translation>
     </message>
     <message>
@@ -745,12 +827,24 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
+        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
+----------
+Button of a task: interrupts it for a while (verb).
+----------
+Button: interrupts all tasks for a while (verb).
+----------
+Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
         <translation>Metti in pausa</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
+        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
+----------
+Button of a task: goes on after a pause (verb).
+----------
+Button: goes on with all tasks after a pause (verb).
+----------
+Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
         <translation>Riprendi</translation>
     </message>
     <message>
@@ -760,17 +854,23 @@
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head: what was done with the file (noun).</extracomment>
+        <extracomment>Column head of the list of files: what was done with the file (noun).
+----------
+Column head of the history: what was done with the file (noun).</extracomment>
         <translation>Azione</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of a list of files.</extracomment>
+        <extracomment>Column head of the list of files.
+----------
+Column head of the history.</extracomment>
         <translation>Nome del file</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head/Label: the size of a file.</extracomment>
+        <extracomment>Column head of the list of files: the size in bytes.
+----------
+Label beside a file&apos;s size.</extracomment>
         <translation>Dimensione</translation>
     </message>
     <message>
@@ -796,7 +896,7 @@
     <message>
         <source>Enable SSL encryption</source>
         <extracomment>Check box of the connection settings.</extracomment>
-        <translation>Attiva la crittografia SSL</translation>
+        <translation>Attiva crittografia SSL</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to sync with the hub.</source>
@@ -805,7 +905,7 @@
     <message>
         <source>has been shared with you.</source>
         <extracomment>Fragment: follows the name of a folder or file in a notification: &quot;Photos has been shared with you.&quot;</extracomment>
-        <translation>è stato condiviso con te.</translation>
+        <translation>è stato condiviso con Lei.</translation>
     </message>
     <message>
         <source>New share</source>
@@ -880,7 +980,7 @@
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Doppio clic sull&apos;icona nell&apos;area di notifica</translation>
+        <translation>Quando si fa doppio clic sull&apos;icona nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -906,7 +1006,7 @@
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Lascia aperte le applicazioni. In seguito sarà necessario riavviare il computer.</translation>
     </message>
     <message>
@@ -935,11 +1035,13 @@
     <message>
         <source>Repair [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Ripara [ProductName]</translation>
+        <translation>Ripristina [ProductName]</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
+----------
+Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Sfoglia le versioni precedenti</translation>
     </message>
     <message>
@@ -987,7 +1089,7 @@
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Questa procedura guidata consente di modificare, riparare o rimuovere [ProductName]. Fare clic su Avanti per continuare o su Annulla per uscire dall&apos;installazione.</translation>
+        <translation>Questa procedura guidata consente di modificare, ripristinare o rimuovere [ProductName]. Fare clic su Avanti per continuare o su Annulla per uscire dall&apos;installazione.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1006,23 +1108,25 @@
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>In queste applicazioni sono aperti file che il programma di installazione di [ProductName] deve sostituire:</translation>
     </message>
     <message>
         <source>Sync activity</source>
         <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
-        <translation>Andamento della sincronizzazione</translation>
+        <translation>Andamento sincronizzazione</translation>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
-        <translation>Ripara</translation>
+        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
+----------
+Button of the installer: puts damaged files right (verb).</extracomment>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
         <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
-        <translation>Installazione di [ProductName] in corso</translation>
+        <translation>Installazione di [ProductName]</translation>
     </message>
     <message>
         <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
@@ -1035,7 +1139,9 @@
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question, in the installer too.</extracomment>
+        <extracomment>Button: answers a question of the installer.
+----------
+Button: answers a question.</extracomment>
         <translation>Sì</translation>
     </message>
     <message>
@@ -1048,7 +1154,7 @@
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Chiudi ora le applicazioni e riaprile al termine dell&apos;installazione.</translation>
     </message>
     <message>
@@ -1062,7 +1168,9 @@
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
+        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
+----------
+Button beside a value: another one is chosen (verb).</extracomment>
         <translation>Modifica</translation>
     </message>
     <message>
@@ -1080,7 +1188,7 @@
     </message>
     <message>
         <source>You can change, repair, or remove the installed program.</source>
-        <translation>È possibile modificare, riparare o rimuovere il programma installato.</translation>
+        <translation>È possibile modificare, ripristinare o rimuovere il programma installato.</translation>
     </message>
     <message>
         <source>Removes the program and its settings from your computer.</source>
@@ -1114,22 +1222,22 @@
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
-        <translation>Il programma di installazione sta per riparare l&apos;applicazione.</translation>
+        <translation>Il programma di installazione sta per ripristinare l&apos;applicazione.</translation>
     </message>
     <message>
         <source>Ready to repair [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Pronto per riparare [ProductName]</translation>
+        <translation>Pronto per ripristinare [ProductName]</translation>
     </message>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Fare clic su Ripara per iniziare, su Indietro per scegliere un&apos;altra azione o su Annulla per uscire dall&apos;installazione.</translation>
+        <translation>Fare clic su Ripristina per iniziare, su Indietro per scegliere un&apos;altra azione o su Annulla per uscire dall&apos;installazione.</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>È stato scelto di uscire dall&apos;installazione prima che [ProductName] venisse installata. Il computer non è stato modificato. È possibile eseguire di nuovo l&apos;installazione in qualsiasi momento.</translation>
+        <translation>L&apos;installazione di [ProductName] è stata interrotta prima del completamento. Il computer non è stato modificato. È possibile eseguire di nuovo l&apos;installazione in qualsiasi momento.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
@@ -1208,7 +1316,7 @@
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
-        <translation>La condivisione è disattivata per questo account.</translation>
+        <translation>La condivisione è disabilitata per questo account.</translation>
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
@@ -1218,7 +1326,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>Menu item: opens the folder that a file lies in.</extracomment>
-        <translation>Apri la cartella contenitore</translation>
+        <translation>Apri percorso file</translation>
     </message>
     <message>
         <source>The address of the file could not be retrieved from the hub.</source>
@@ -1264,15 +1372,17 @@
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Sincronizza, condividi e proteggi i file</translation>
+        <translation>Sincronizzazione, condivisione e protezione dei file</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
-        <translation>La condivisione di file tramite Ferrylink è disattivata sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>La condivisione di file tramite Ferrylink è disabilitata sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
+        <extracomment>Choice of a list of periods, or the head of a group of events.
+----------
+Choice of a list of periods.</extracomment>
         <translation>Ieri</translation>
     </message>
     <message>
@@ -1315,7 +1425,7 @@
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;h fa</translation>
+        <translation>%1 h fa</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1333,13 +1443,15 @@
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
+        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
+----------
+Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
         <translation>Rinominato</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;g fa</translation>
+        <translation>%1 g fa</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1349,11 +1461,13 @@
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;min fa</translation>
+        <translation>%1 min fa</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
+----------
+Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>File</translation>
     </message>
     <message>
@@ -1373,7 +1487,9 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
+        <extracomment>Label beside a list: the type of item.
+----------
+Column head of a list: the kind of file.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
@@ -1444,7 +1560,7 @@
     <message>
         <source>Now syncing</source>
         <extracomment>Heading of the list of files that are being synced at present.</extracomment>
-        <translation>Sincronizzazione in corso</translation>
+        <translation>In sincronizzazione</translation>
     </message>
     <message>
         <source>September</source>
@@ -1488,7 +1604,9 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
+----------
+Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
         <translation>Configurazione avanzata</translation>
     </message>
     <message>
@@ -1520,7 +1638,7 @@
     <message>
         <source>Setup mode</source>
         <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
-        <translation>Modalità di configurazione</translation>
+        <translation>Tipo di configurazione</translation>
     </message>
     <message>
         <source>No, thanks</source>
@@ -1549,7 +1667,9 @@
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.</extracomment>
+        <extracomment>Label beside a field.
+----------
+Label beside the field for the proxy server&apos;s user.</extracomment>
         <translation>Nome utente</translation>
     </message>
     <message>
@@ -1584,7 +1704,7 @@
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nuova attività di sincronizzazione</translation>
+        <translation>Nuova sincronizzazione</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1598,7 +1718,7 @@
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>I file di dimensioni superiori a %1&#xa0;MB non verranno sincronizzati.</translation>
+        <translation>I file di dimensioni superiori a %1 MB non verranno sincronizzati.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1682,7 +1802,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Se un file è cambiato su entrambi i lati:</translation>
+        <translation>Quando un file è stato modificato su entrambi i lati:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1739,7 +1859,7 @@
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Sincronizzazione bidirezionale</translation>
+        <translation>Bidirezionale</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1800,7 +1920,9 @@
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
+        <extracomment>Tab of the settings: syncing (noun).
+----------
+Choice of a filter of notifications: those about syncing (noun).</extracomment>
         <translation>Sincronizzazione</translation>
     </message>
     <message>
@@ -1913,7 +2035,9 @@
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
+        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
+----------
+Label beside the field for the hub&apos;s address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -1947,7 +2071,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>Label beside a list: two-way sync, upload only, download only.</extracomment>
-        <translation>Direzione di sincronizzazione</translation>
+        <translation>Direzione sincronizzazione</translation>
     </message>
     <message>
         <source>Something went wrong in one of your tasks. Open the main window for details.</source>
@@ -2017,7 +2141,7 @@
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
         <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
-        <translation>Il servizio cartelle home è disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>Il servizio cartelle home è disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
@@ -2130,11 +2254,13 @@
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Attività di sincronizzazione “%1”</translation>
+        <translation>Sincronizzazione “%1”</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
+        <extracomment>Screen reader: names the side of a task on the hub.
+----------
+Label in the wizard&apos;s summary.</extracomment>
         <translation>Cartella sull&apos;hub</translation>
     </message>
     <message>
@@ -2193,7 +2319,7 @@
     </message>
     <message>
         <source>The Ferrylink relay service is disabled on the hub.</source>
-        <translation>Il servizio relay Ferrylink è disattivato sull&apos;hub.</translation>
+        <translation>Il servizio relay Ferrylink è disabilitato sull&apos;hub.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
@@ -2206,7 +2332,11 @@
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading of a page.
+----------
+Tab of the settings.
+----------
+Heading of the tray&apos;s list of notifications.</extracomment>
         <translation>Notifiche</translation>
     </message>
     <message>
@@ -2318,7 +2448,7 @@
     <message>
         <source>The hub and %1 cannot communicate. Please update both to the latest version.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>L&apos;hub e %1 non possono comunicare. Aggiornare entrambi alla versione più recente.</translation>
+        <translation>L&apos;hub e %1 non possono comunicare. Aggiornarli entrambi alla versione più recente.</translation>
     </message>
     <message>
         <source>This version of %1 is too old for the hub. Please update it.</source>
@@ -2327,7 +2457,9 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
+----------
+Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versioni non corrispondenti</translation>
     </message>
     <message>
@@ -2353,7 +2485,7 @@
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Solo download delle modifiche da %1</translation>
+        <translation>Scarica solo le modifiche da %1</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2441,7 +2573,7 @@
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per questo client. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
+        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per questo client. Chiedere all&apos;amministratore di aggiornarla.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2509,7 +2641,7 @@
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Lo spazio su questo disco non è sufficiente. Tessaly richiede almeno %1&#xa0;MB.</translation>
+        <translation>Lo spazio su questo disco non è sufficiente. Tessaly richiede almeno %1 MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2603,16 +2735,18 @@
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item: fetches the file (verb).
+----------
+Button: fetches the file (verb).</extracomment>
         <translation>Scarica</translation>
     </message>
     <message>
         <source>Public sharing is disabled on the hub.</source>
-        <translation>La condivisione pubblica è disattivata sull&apos;hub.</translation>
+        <translation>La condivisione pubblica è disabilitata sull&apos;hub.</translation>
     </message>
     <message>
         <source>Sharing is disabled. Please contact your administrator.</source>
-        <translation>La condivisione è disattivata. Contattare l&apos;amministratore.</translation>
+        <translation>La condivisione è disabilitata. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2632,7 +2766,7 @@
     <message>
         <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s; a Grida spreadsheet is a whole file, not one sheet.</extracomment>
-        <translation>%1 ha condiviso con te il foglio di calcolo Grida “%2”.</translation>
+        <translation>%1 ha condiviso con Lei il foglio di calcolo Grida “%2”.</translation>
     </message>
     <message>
         <source>No data</source>
@@ -2641,7 +2775,9 @@
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button: opens the page on which an item is shared (verb).
+----------
+Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Condividi</translation>
     </message>
     <message>
@@ -2709,7 +2845,7 @@
     <message>
         <source>Your computer</source>
         <extracomment>Label below a picture of a tutorial page.</extracomment>
-        <translation>Il tuo computer</translation>
+        <translation>Questo computer</translation>
     </message>
     <message>
         <source>All your files, everywhere</source>
@@ -2738,7 +2874,7 @@
     <message>
         <source>mentioned you in</source>
         <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann mentioned you in Plan.txt&quot;.</extracomment>
-        <translation>ti ha menzionato in</translation>
+        <translation>ha menzionato il Suo nome in</translation>
     </message>
     <message>
         <source>requested access to</source>
@@ -2748,12 +2884,12 @@
     <message>
         <source>%1 shared the file &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con te il file “%2”.</translation>
+        <translation>%1 ha condiviso con Lei il file “%2”.</translation>
     </message>
     <message>
         <source>shared with you</source>
         <extracomment>Fragment in a list of notifications, after a person&apos;s name and before a file&apos;s: &quot;Ann shared with you Plan.txt&quot;.</extracomment>
-        <translation>ha condiviso con te</translation>
+        <translation>ha condiviso con Lei</translation>
     </message>
     <message>
         <source>Shared</source>
@@ -2787,7 +2923,9 @@
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings.
+----------
+Check box of a task&apos;s filters.</extracomment>
         <translation>Mantieni i file sull&apos;hub quando vengono eliminati da questo computer</translation>
     </message>
     <message>
@@ -2830,7 +2968,7 @@
     <message>
         <source>Files shared with you</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>File condivisi con te</translation>
+        <translation>File condivisi con Lei</translation>
     </message>
     <message>
         <source>Create a sync task</source>
@@ -2853,7 +2991,7 @@
     </message>
     <message>
         <source>The hub and Tessaly cannot communicate. Please update both to the latest version.</source>
-        <translation>L&apos;hub e Tessaly non possono comunicare. Aggiornare entrambi alla versione più recente.</translation>
+        <translation>L&apos;hub e Tessaly non possono comunicare. Aggiornarli entrambi alla versione più recente.</translation>
     </message>
     <message>
         <source>Never miss a change</source>
@@ -2872,7 +3010,7 @@
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Solo download delle modifiche da Tessaly Server</translation>
+        <translation>Scarica solo le modifiche da Tessaly Server</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -2899,7 +3037,7 @@
     <message>
         <source>%1 shared the folder &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the folder&apos;s.</extracomment>
-        <translation>%1 ha condiviso con te la cartella “%2”.</translation>
+        <translation>%1 ha condiviso con Lei la cartella “%2”.</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the folder &quot;%4&quot;.</source>
@@ -2919,12 +3057,12 @@
     <message>
         <source>%1 shared the Folia document &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con te il documento Folia “%2”.</translation>
+        <translation>%1 ha condiviso con Lei il documento Folia “%2”.</translation>
     </message>
     <message>
         <source>%1 shared the Pictra presentation &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con te la presentazione Pictra “%2”.</translation>
+        <translation>%1 ha condiviso con Lei la presentazione Pictra “%2”.</translation>
     </message>
     <message>
         <source>Privacy settings</source>
@@ -2948,7 +3086,9 @@
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
+        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
+----------
+Menu item of the file manager: the files are downloaded and stay.</extracomment>
         <translation>Mantieni sempre su questo computer</translation>
     </message>
     <message>
@@ -2969,7 +3109,7 @@
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Attività di sincronizzazione</translation>
+        <translation>Sincronizzazione</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -2989,7 +3129,7 @@
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Il backup è completato. Il computer verrà arrestato tra %1&#xa0;s.</translation>
+        <translation>Il backup è completato. Il computer verrà arrestato tra %1 s.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3028,12 +3168,12 @@
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Fine dell&apos;ultima esecuzione</translation>
+        <translation>Ultima ora di fine</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>Ultima esecuzione</translation>
+        <translation>Ultima ora di esecuzione</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3217,7 +3357,7 @@
     </message>
     <message>
         <source>The backup has stopped because the hub and the client cannot communicate. Please update both.</source>
-        <translation>Il backup si è interrotto perché l&apos;hub e il client non possono comunicare. Aggiornare entrambi.</translation>
+        <translation>Il backup si è interrotto perché l&apos;hub e il client non possono comunicare. Aggiornarli entrambi.</translation>
     </message>
     <message>
         <source>The backup has stopped because this version of Tessaly is too old for the hub.</source>
@@ -3295,7 +3435,7 @@
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>La versione del pacchetto sull&apos;hub non è supportata. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
+        <translation>La versione del pacchetto sull&apos;hub non è supportata. Chiedere all&apos;amministratore di aggiornarlo.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3313,7 +3453,7 @@
     <message>
         <source>Sync direction mismatch</source>
         <extracomment>Heading of the state of a task: it may upload alone or download alone.</extracomment>
-        <translation>Direzione di sincronizzazione non corrispondente</translation>
+        <translation>Direzione di sincronizzazione errata</translation>
     </message>
     <message>
         <source>Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
@@ -3365,7 +3505,7 @@
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Solo upload delle modifiche su %1</translation>
+        <translation>Carica solo le modifiche su %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3394,21 +3534,21 @@
     <message>
         <source>Home folder disabled</source>
         <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
-        <translation>Cartella home disattivata</translation>
+        <translation>Cartella home disabilitata</translation>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Lun</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Gio</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Sab</translation>
     </message>
     <message>
@@ -3444,7 +3584,7 @@
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Ven</translation>
     </message>
     <message>
@@ -3454,17 +3594,17 @@
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Dom</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Mar</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>Mer</translation>
     </message>
     <message>
@@ -3619,7 +3759,9 @@
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
+        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
+----------
+Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
         <translation>Aggiornato</translation>
     </message>
     <message>
@@ -3741,7 +3883,7 @@
     <message>
         <source>Try on-demand sync</source>
         <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
-        <translation>Provare la sincronizzazione on demand</translation>
+        <translation>Novità: sincronizzazione on demand</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -3777,12 +3919,16 @@
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
+----------
+Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
         <translation>Spazio liberato</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file: it was downloaded and stays.
+----------
+Event in the history: the file was downloaded and stays.</extracomment>
         <translation>Reso disponibile su questo computer</translation>
     </message>
     <message>
@@ -3797,7 +3943,7 @@
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Lo spazio su questo disco non è sufficiente. %1 richiede almeno %2&#xa0;MB.</translation>
+        <translation>Lo spazio su questo disco non è sufficiente. %1 richiede almeno %2 MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3858,7 +4004,7 @@
     <message>
         <source>Only you can open the link</source>
         <extracomment>Choice: who may open a sharing link (a sentence without a full stop).</extracomment>
-        <translation>Solo tu puoi aprire il link</translation>
+        <translation>Solo Lei può aprire il link</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -3966,7 +4112,7 @@
     </message>
     <message>
         <source>The backup has stopped because your account has been disabled on the hub.</source>
-        <translation>Il backup si è interrotto perché l&apos;account è stato disattivato sull&apos;hub.</translation>
+        <translation>Il backup si è interrotto perché l&apos;account è stato disabilitato sull&apos;hub.</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -3975,16 +4121,16 @@
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
-        <translation>Chiedere all&apos;amministratore di attivare l&apos;account.</translation>
+        <translation>Chiedere all&apos;amministratore di abilitare l&apos;account.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub. Please contact your administrator.</source>
-        <translation>L&apos;account è stato disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>L&apos;account è stato disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Account disabled</source>
         <extracomment>Status, short, of a task: the administrator has disabled the user&apos;s account.</extracomment>
-        <translation>Account disattivato</translation>
+        <translation>Account disabilitato</translation>
     </message>
     <message>
         <source>Show icons on files that are excluded by a filter</source>
@@ -4071,7 +4217,9 @@
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
+----------
+Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Modalità di backup</translation>
     </message>
     <message>
@@ -4133,11 +4281,13 @@
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Immettere una dimensione compresa tra 0 e %1&#xa0;MB. Immettere 0 per non impostare alcun limite.</translation>
+        <translation>Immettere una dimensione compresa tra 0 e %1 MB. Immettere 0 per non impostare alcun limite.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
+        <extracomment>Tab of the settings: the connection to the hub.
+----------
+Heading of a page: the connection to the hub.</extracomment>
         <translation>Connessione</translation>
     </message>
     <message>
@@ -4217,7 +4367,7 @@
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Attività di sincronizzazione</translation>
+        <translation>Sincronizzazioni</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4276,12 +4426,12 @@
     <message>
         <source>replied to your comment on</source>
         <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann replied to your comment on Plan.txt&quot;.</extracomment>
-        <translation>ha risposto al tuo commento su</translation>
+        <translation>ha risposto al Suo commento su</translation>
     </message>
     <message>
         <source>Open sync status</source>
         <extracomment>Menu item in the tray menu: opens the page with the state of the tasks.</extracomment>
-        <translation>Apri lo stato di sincronizzazione</translation>
+        <translation>Apri stato sincronizzazione</translation>
     </message>
     <message>
         <source>Replies</source>
@@ -4296,7 +4446,7 @@
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per %1. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
+        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per %1. Chiedere all&apos;amministratore di aggiornarla.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4439,7 +4589,7 @@
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Immettere una dimensione inferiore a %1&#xa0;MB.</translation>
+        <translation>Immettere una dimensione inferiore a %1 MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4463,7 +4613,7 @@
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
+        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4500,7 +4650,7 @@
     <message>
         <source>Norvik disabled</source>
         <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
-        <translation>Norvik disattivato</translation>
+        <translation>Norvik disabilitato</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
@@ -4524,11 +4674,11 @@
     </message>
     <message>
         <source>Norvik is disabled on the hub. Please contact your administrator.</source>
-        <translation>Norvik è disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>Norvik è disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>
-        <translation>L&apos;account è stato disattivato sull&apos;hub, quindi non è possibile verificare la cartella.</translation>
+        <translation>L&apos;account è stato disabilitato sull&apos;hub, quindi non è possibile verificare la cartella.</translation>
     </message>
     <message>
         <source>Add</source>
@@ -4561,7 +4711,7 @@
     <message>
         <source>Custom task name</source>
         <extracomment>Check box beside a field: the user names the task.</extracomment>
-        <translation>Nome personalizzato dell&apos;attività</translation>
+        <translation>Nome attività personalizzato</translation>
     </message>
     <message>
         <source>The name helps you tell your tasks apart. It is shown on this computer only.</source>

@@ -5,17 +5,27 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
+----------
+Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
         <translation>Verwijderd</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
+        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
+----------
+Button of a connection: ends the link between this computer and the hub (verb).
+----------
+Button: ends the link between this computer and the hub (verb).
+----------
+Button: ends a task&apos;s link with the hub (verb).</extracomment>
         <translation>Ontkoppelen</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
+----------
+Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Verbinden via Ferrylink</translation>
     </message>
     <message>
@@ -30,7 +40,9 @@
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
+        <extracomment>Heading of a message box; also the state of a task that failed.
+----------
+Status of a task.</extracomment>
         <translation>Fout</translation>
     </message>
     <message>
@@ -48,12 +60,16 @@
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard: completes the set-up.
+----------
+Button of the installer, on its last page (verb).</extracomment>
         <translation>Voltooien</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
+        <extracomment>Label above the path of the folder on this computer.
+----------
+Column head of the list of shared folders: where each is on this computer.</extracomment>
         <translation>Lokale map</translation>
     </message>
     <message>
@@ -145,7 +161,9 @@
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
+----------
+Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
         <translation>Gedownload</translation>
     </message>
     <message>
@@ -155,22 +173,32 @@
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered.
+----------
+Button of the installer.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
+        <extracomment>Button: closes a box and drops what was entered.
+----------
+Button: drops the changes on the proxy page.
+----------
+Button of the installer.</extracomment>
         <translation>Annuleren</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard.
+----------
+Button of the installer: goes to the next page.</extracomment>
         <translation>Volgende</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard.
+----------
+Button of the installer: goes to the page before.</extracomment>
         <translation>Vorige</translation>
     </message>
     <message>
@@ -195,17 +223,25 @@
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
+----------
+Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
         <translation>Geüpload</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
+----------
+Choice of a list of periods: the user sets one (verb).</extracomment>
         <translation>Aanpassen</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
+        <extracomment>Label beside a time of day.
+----------
+Column head of the list of files: when it happened.
+----------
+Column head of the history: when it happened.</extracomment>
         <translation>Tijd</translation>
     </message>
     <message>
@@ -253,7 +289,9 @@
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.</extracomment>
+        <extracomment>Message of a task, and of a notification.
+----------
+Message of a task.</extracomment>
         <translation>Uw opslagquotum op de hub is opgebruikt. Maak ruimte vrij en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -268,7 +306,11 @@
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
+        <extracomment>Menu item in the tray menu: opens the settings.
+----------
+Button: opens the settings.
+----------
+Tab of the main window.</extracomment>
         <translation>Instellingen</translation>
     </message>
     <message>
@@ -278,7 +320,9 @@
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
+        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
+----------
+Tab of the settings: the folders that the hub shares.</extracomment>
         <translation>Gedeelde mappen</translation>
     </message>
     <message>
@@ -313,7 +357,11 @@
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside a field.</extracomment>
+        <extracomment>Label beside the field for the proxy server&apos;s password.
+----------
+Label beside a field.
+----------
+Label beside a field of a sharing link.</extracomment>
         <translation>Wachtwoord</translation>
     </message>
     <message>
@@ -386,12 +434,16 @@
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head: whether a folder or file is synced.</extracomment>
+        <extracomment>Column head of the list of shared folders: whether the folder is synced.
+----------
+Column head of the list of files: whether the file is synced.</extracomment>
         <translation>Status</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes on the proxy page (verb).
+----------
+Button: takes over the changes (verb).</extracomment>
         <translation>Toepassen</translation>
     </message>
     <message>
@@ -401,7 +453,9 @@
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
+        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
+----------
+Button: opens the page on which a thing is managed (verb).</extracomment>
         <translation>Beheren</translation>
     </message>
     <message>
@@ -411,13 +465,15 @@
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray: an unexpected error.
+----------
+Status, short, of a task: an unexpected error.</extracomment>
         <translation>Er is iets misgegaan</translation>
     </message>
     <message>
         <source>Updating...</source>
         <extracomment>Status, short, in the tray: the client or a file is being brought up to date.</extracomment>
-        <translation>Bezig met bijwerken...</translation>
+        <translation>Bijwerken...</translation>
     </message>
     <message>
         <source>Encrypt data transmission with SSL</source>
@@ -451,7 +507,9 @@
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options, and of the display settings.</extracomment>
+        <extracomment>Check box of the general options.
+----------
+Check box of the display settings.</extracomment>
         <translation>Een zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
@@ -537,7 +595,11 @@
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).
+----------
+Choice of a filter of the history: a type of item (noun, singular).
+----------
+Tab of a task&apos;s settings: the two folders.</extracomment>
         <translation>Map</translation>
     </message>
     <message>
@@ -551,7 +613,15 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
+        <extracomment>Button: takes the shared folder off the list; its files are kept.
+----------
+Button of the installer: takes the program off the computer (verb).
+----------
+Label of the installer, beside its button: takes the program off the computer (verb).
+----------
+Button: takes an entry off a list (verb).
+----------
+Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
         <translation>Verwijderen</translation>
     </message>
     <message>
@@ -565,13 +635,15 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
-        <translation>Bezig met voorbereiden...</translation>
+        <extracomment>Status: state of a task or a file before its transfer.
+----------
+Status: state of a file before its transfer.</extracomment>
+        <translation>Voorbereiden...</translation>
     </message>
     <message>
         <source>Uploading...</source>
         <extracomment>Status: state of a file.</extracomment>
-        <translation>Bezig met uploaden...</translation>
+        <translation>Uploaden...</translation>
     </message>
     <message>
         <source>System default</source>
@@ -591,7 +663,7 @@
     <message>
         <source>Downloading...</source>
         <extracomment>Status: state of a file.</extracomment>
-        <translation>Bezig met downloaden...</translation>
+        <translation>Downloaden...</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -601,7 +673,7 @@
     <message>
         <source>Syncing %1 files...</source>
         <extracomment>Status in the tray; %1 is a number, mostly more than one.</extracomment>
-        <translation>Bezig met synchroniseren van bestanden (%1)...</translation>
+        <translation>Bestanden synchroniseren (%1)...</translation>
     </message>
     <message>
         <source>Downloading &quot;%1&quot;...</source>
@@ -660,16 +732,20 @@
     <message>
         <source>Loading...</source>
         <extracomment>Status: stands in place of a list that is on its way.</extracomment>
-        <translation>Bezig met laden...</translation>
+        <translation>Laden...</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
+----------
+Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Synchronisatiemodus</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
+        <extracomment>Status in the tray: the task or the client was paused.
+----------
+Status of a task: the task was paused.</extracomment>
         <translation>Gepauzeerd</translation>
     </message>
     <message>
@@ -697,11 +773,15 @@
     <message>
         <source>Linking...</source>
         <extracomment>Status in the tray: this computer is being linked to the hub.</extracomment>
-        <translation>Bezig met koppelen...</translation>
+        <translation>Koppelen...</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
+        <extracomment>Status, short: the user may not use the shared folder.
+----------
+Status, short, of a task: the user may not do this.
+----------
+Heading of the state of a task.</extracomment>
         <translation>Toegang geweigerd</translation>
     </message>
     <message>
@@ -720,7 +800,9 @@
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
+----------
+Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Link ophalen</translation>
     </message>
     <message>
@@ -745,12 +827,24 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
+        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
+----------
+Button of a task: interrupts it for a while (verb).
+----------
+Button: interrupts all tasks for a while (verb).
+----------
+Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
         <translation>Pauzeren</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
+        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
+----------
+Button of a task: goes on after a pause (verb).
+----------
+Button: goes on with all tasks after a pause (verb).
+----------
+Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
         <translation>Hervatten</translation>
     </message>
     <message>
@@ -760,17 +854,23 @@
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head: what was done with the file (noun).</extracomment>
+        <extracomment>Column head of the list of files: what was done with the file (noun).
+----------
+Column head of the history: what was done with the file (noun).</extracomment>
         <translation>Actie</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of a list of files.</extracomment>
+        <extracomment>Column head of the list of files.
+----------
+Column head of the history.</extracomment>
         <translation>Bestandsnaam</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head/Label: the size of a file.</extracomment>
+        <extracomment>Column head of the list of files: the size in bytes.
+----------
+Label beside a file&apos;s size.</extracomment>
         <translation>Grootte</translation>
     </message>
     <message>
@@ -906,7 +1006,7 @@
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>De toepassingen geopend laten. U moet de computer daarna opnieuw opstarten.</translation>
     </message>
     <message>
@@ -939,7 +1039,9 @@
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
+----------
+Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Vorige versies bekijken</translation>
     </message>
     <message>
@@ -1006,7 +1108,7 @@
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Deze toepassingen hebben bestanden geopend die door Setup van [ProductName] moeten worden vervangen:</translation>
     </message>
     <message>
@@ -1016,7 +1118,9 @@
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
+----------
+Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Herstellen</translation>
     </message>
     <message>
@@ -1035,7 +1139,9 @@
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question, in the installer too.</extracomment>
+        <extracomment>Button: answers a question of the installer.
+----------
+Button: answers a question.</extracomment>
         <translation>Ja</translation>
     </message>
     <message>
@@ -1048,7 +1154,7 @@
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>De toepassingen nu sluiten en opnieuw openen wanneer Setup klaar is.</translation>
     </message>
     <message>
@@ -1062,7 +1168,9 @@
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
+        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
+----------
+Button beside a value: another one is chosen (verb).</extracomment>
         <translation>Wijzigen</translation>
     </message>
     <message>
@@ -1272,7 +1380,9 @@
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
+        <extracomment>Choice of a list of periods, or the head of a group of events.
+----------
+Choice of a list of periods.</extracomment>
         <translation>Gisteren</translation>
     </message>
     <message>
@@ -1315,7 +1425,7 @@
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;u geleden</translation>
+        <translation>%1 uur geleden</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1333,13 +1443,15 @@
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
+        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
+----------
+Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
         <translation>Hernoemd</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;d geleden</translation>
+        <translation>%1 dag(en) geleden</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1349,11 +1461,13 @@
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1&#xa0;min geleden</translation>
+        <translation>%1 min. geleden</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
+----------
+Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Bestand</translation>
     </message>
     <message>
@@ -1373,7 +1487,9 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
+        <extracomment>Label beside a list: the type of item.
+----------
+Column head of a list: the kind of file.</extracomment>
         <translation>Type</translation>
     </message>
     <message>
@@ -1488,7 +1604,9 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
+----------
+Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
         <translation>Geavanceerde configuratie</translation>
     </message>
     <message>
@@ -1549,7 +1667,9 @@
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.</extracomment>
+        <extracomment>Label beside a field.
+----------
+Label beside the field for the proxy server&apos;s user.</extracomment>
         <translation>Gebruikersnaam</translation>
     </message>
     <message>
@@ -1598,7 +1718,7 @@
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Bestanden groter dan %1&#xa0;MB worden niet gesynchroniseerd.</translation>
+        <translation>Bestanden groter dan %1 MB worden niet gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1712,7 +1832,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>Status, shown while this computer&apos;s link to the hub is being ended.</extracomment>
-        <translation>Bezig met ontkoppelen...</translation>
+        <translation>Ontkoppelen...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
@@ -1739,7 +1859,7 @@
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Tweerichtingssynchronisatie</translation>
+        <translation>In beide richtingen</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1800,7 +1920,9 @@
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
+        <extracomment>Tab of the settings: syncing (noun).
+----------
+Choice of a filter of notifications: those about syncing (noun).</extracomment>
         <translation>Synchronisatie</translation>
     </message>
     <message>
@@ -1913,7 +2035,9 @@
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
+        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
+----------
+Label beside the field for the hub&apos;s address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2100,7 +2224,7 @@
     <message>
         <source>Previous month</source>
         <extracomment>Screen reader: names a button of a calendar.</extracomment>
-        <translation>Vorige maand weergeven</translation>
+        <translation>Vorige maand</translation>
     </message>
     <message>
         <source>Enter a keyword to search the history</source>
@@ -2120,7 +2244,7 @@
     <message>
         <source>Next month</source>
         <extracomment>Screen reader: names a button of a calendar.</extracomment>
-        <translation>Volgende maand weergeven</translation>
+        <translation>Volgende maand</translation>
     </message>
     <message>
         <source>Choose a type of event</source>
@@ -2134,7 +2258,9 @@
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
+        <extracomment>Screen reader: names the side of a task on the hub.
+----------
+Label in the wizard&apos;s summary.</extracomment>
         <translation>Map op de hub</translation>
     </message>
     <message>
@@ -2206,7 +2332,11 @@
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading of a page.
+----------
+Tab of the settings.
+----------
+Heading of the tray&apos;s list of notifications.</extracomment>
         <translation>Meldingen</translation>
     </message>
     <message>
@@ -2261,7 +2391,7 @@
     <message>
         <source>Preview and comment</source>
         <extracomment>Choice: a right on a shared file: look at it without downloading it, and comment on it (verbs).</extracomment>
-        <translation>Voorbeeld bekijken en reageren</translation>
+        <translation>Voorbeeld en reacties</translation>
     </message>
     <message>
         <source>%1 could not be updated. Please try again later.</source>
@@ -2327,7 +2457,9 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
+----------
+Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versies komen niet overeen</translation>
     </message>
     <message>
@@ -2353,7 +2485,7 @@
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Wijzigingen alleen downloaden (van %1)</translation>
+        <translation>Alleen wijzigingen van %1 downloaden</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2509,7 +2641,7 @@
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Er is niet genoeg ruimte op deze schijf. Tessaly heeft ten minste %1&#xa0;MB nodig.</translation>
+        <translation>Er is niet genoeg ruimte op deze schijf. Tessaly heeft ten minste %1 MB nodig.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2603,7 +2735,9 @@
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item: fetches the file (verb).
+----------
+Button: fetches the file (verb).</extracomment>
         <translation>Downloaden</translation>
     </message>
     <message>
@@ -2622,7 +2756,7 @@
     <message>
         <source>%1 (%2) requests %3 access to the Grida spreadsheet &quot;%4&quot;.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
-        <translation>%1 (%2) vraagt toegang (%3) tot de Grida-spreadsheet ‘%4’.</translation>
+        <translation>%1 (%2) vraagt toegang (%3) tot het Grida-werkblad ‘%4’.</translation>
     </message>
     <message>
         <source>People who have the link will no longer be able to open the file.</source>
@@ -2632,7 +2766,7 @@
     <message>
         <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s; a Grida spreadsheet is a whole file, not one sheet.</extracomment>
-        <translation>%1 heeft de Grida-spreadsheet ‘%2’ met u gedeeld.</translation>
+        <translation>%1 heeft het Grida-werkblad ‘%2’ met u gedeeld.</translation>
     </message>
     <message>
         <source>No data</source>
@@ -2641,7 +2775,9 @@
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button: opens the page on which an item is shared (verb).
+----------
+Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Delen</translation>
     </message>
     <message>
@@ -2787,7 +2923,9 @@
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings.
+----------
+Check box of a task&apos;s filters.</extracomment>
         <translation>Bestanden op de hub behouden wanneer ze van deze computer worden verwijderd</translation>
     </message>
     <message>
@@ -2872,7 +3010,7 @@
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Wijzigingen alleen downloaden (van Tessaly Server)</translation>
+        <translation>Alleen wijzigingen van Tessaly Server downloaden</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -2948,7 +3086,9 @@
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
+        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
+----------
+Menu item of the file manager: the files are downloaded and stay.</extracomment>
         <translation>Altijd op deze computer behouden</translation>
     </message>
     <message>
@@ -2989,7 +3129,7 @@
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>De back-up is voltooid. De computer wordt over %1&#xa0;seconden afgesloten.</translation>
+        <translation>De back-up is voltooid. De computer wordt over %1 seconden afgesloten.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3028,12 +3168,12 @@
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Laatst voltooid</translation>
+        <translation>Laatste eindtijd</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>Laatst uitgevoerd</translation>
+        <translation>Laatste uitvoertijd</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3365,7 +3505,7 @@
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Wijzigingen alleen uploaden (naar %1)</translation>
+        <translation>Alleen wijzigingen naar %1 uploaden</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3398,17 +3538,17 @@
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>ma</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>do</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>za</translation>
     </message>
     <message>
@@ -3444,7 +3584,7 @@
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>vr</translation>
     </message>
     <message>
@@ -3454,17 +3594,17 @@
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>zo</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>di</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Day in a narrow row: a day of the week.</extracomment>
+        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
         <translation>wo</translation>
     </message>
     <message>
@@ -3606,7 +3746,7 @@
     <message>
         <source>Linking to the hub...</source>
         <extracomment>Status, shown while this computer is being linked to the hub.</extracomment>
-        <translation>Bezig met koppelen aan de hub...</translation>
+        <translation>Koppelen aan de hub...</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -3619,7 +3759,9 @@
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
+        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
+----------
+Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
         <translation>Up-to-date</translation>
     </message>
     <message>
@@ -3777,12 +3919,16 @@
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
+----------
+Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
         <translation>Ruimte vrijgemaakt</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file: it was downloaded and stays.
+----------
+Event in the history: the file was downloaded and stays.</extracomment>
         <translation>Beschikbaar gemaakt op deze computer</translation>
     </message>
     <message>
@@ -3797,7 +3943,7 @@
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Er is niet genoeg ruimte op deze schijf. %1 heeft ten minste %2&#xa0;MB nodig.</translation>
+        <translation>Er is niet genoeg ruimte op deze schijf. %1 heeft ten minste %2 MB nodig.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3835,7 +3981,7 @@
     </message>
     <message>
         <source>Please ask your administrator to give you permission to use the package.</source>
-        <translation>Vraag uw beheerder om een machtiging voor het gebruik van het pakket.</translation>
+        <translation>Vraag uw beheerder om toestemming om het pakket te gebruiken.</translation>
     </message>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
@@ -3971,7 +4117,7 @@
     <message>
         <source>Syncing...</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Bezig met synchroniseren...</translation>
+        <translation>Synchroniseren...</translation>
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
@@ -4071,7 +4217,9 @@
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
+----------
+Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Back-upmodus</translation>
     </message>
     <message>
@@ -4133,11 +4281,13 @@
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Voer een grootte van 0 tot en met %1&#xa0;MB in. Voer 0 in voor geen limiet.</translation>
+        <translation>Voer een grootte van 0 tot en met %1 MB in. Voer 0 in voor geen limiet.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
+        <extracomment>Tab of the settings: the connection to the hub.
+----------
+Heading of a page: the connection to the hub.</extracomment>
         <translation>Verbinding</translation>
     </message>
     <message>
@@ -4344,7 +4494,7 @@
     </message>
     <message>
         <source>Are you sure you want to remove the link? It cannot be restored.</source>
-        <translation>Weet u zeker dat u de link wilt verwijderen? De link kan niet worden teruggezet.</translation>
+        <translation>Weet u zeker dat u de link wilt verwijderen? De link kan niet worden hersteld.</translation>
     </message>
     <message>
         <source>Remove this link?</source>
@@ -4439,7 +4589,7 @@
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Voer een grootte van minder dan %1&#xa0;MB in.</translation>
+        <translation>Voer een grootte van minder dan %1 MB in.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4463,7 +4613,7 @@
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
+        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
         <translation>:</translation>
     </message>
     <message>

@@ -56,7 +56,7 @@ bool ArchiveWriter::AddHeader(const std::string& path, unsigned type, unsigned m
     const std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(), archive_entry_free);
     archive_entry_set_pathname(entry.get(), path.c_str());
     archive_entry_set_filetype(entry.get(), type);
-    archive_entry_set_perm(entry.get(), mode);
+    archive_entry_set_perm(entry.get(), static_cast<mode_t>(mode));
     archive_entry_set_size(entry.get(), size);
     archive_entry_set_mtime(entry.get(), time_, 0);
     archive_entry_set_uid(entry.get(), 0);

@@ -76,7 +76,7 @@ std::string Difference(const Entry& entry, const std::string& path, const struct
         ReadLink(path, target);
         return target == entry.link ? "" : "it leads to \"" + Printable(target) + "\"";
     }
-    const unsigned expected = entry.mode & 0777U & ~mask;
+    const unsigned expected = entry.mode & 0777U & ~static_cast<unsigned>(mask);
     if ((info.st_mode & 07777U) != expected) {
         return "its mode is " + Octal(info.st_mode & 07777U) + ", not " + Octal(expected);
     }

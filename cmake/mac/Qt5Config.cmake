@@ -1,0 +1,23 @@
+# Qt 5 for cmake/mac/toolchain.cmake: the headers and tools of this machine's, its libraries stood in for.
+execute_process(COMMAND qmake -qt=5 -query QT_INSTALL_HEADERS OUTPUT_VARIABLE kq_qt_headers
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND qmake -qt=5 -query QT_HOST_BINS OUTPUT_VARIABLE kq_qt_tools
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+foreach(component IN ITEMS Core Gui Widgets Test)
+    if(NOT TARGET Qt5::${component})
+        add_library(Qt5::${component} INTERFACE IMPORTED GLOBAL)
+        target_include_directories(Qt5::${component} SYSTEM INTERFACE ${kq_qt_headers} ${kq_qt_headers}/Qt${component})
+        target_link_libraries(Qt5::${component} INTERFACE ${kq_stand_ins}/lib/libQt5${component}.tbd)
+    endif()
+endforeach()
+target_link_libraries(Qt5::Gui INTERFACE Qt5::Core)
+target_link_libraries(Qt5::Widgets INTERFACE Qt5::Gui)
+target_link_libraries(Qt5::Test INTERFACE Qt5::Core)
+foreach(tool IN ITEMS moc rcc lrelease)
+    if(NOT TARGET Qt5::${tool})
+        add_executable(Qt5::${tool} IMPORTED GLOBAL)
+        set_target_properties(Qt5::${tool} PROPERTIES IMPORTED_LOCATION ${kq_qt_tools}/${tool})
+    endif()
+endforeach()
+set(Qt5Core_VERSION_MAJOR 5)
+set(Qt5Core_VERSION_MINOR 15)

@@ -1,41 +1,31 @@
 #include "launcher-test.h"
 
-#include <regex.h>
+#include <sys/stat.h>
 
-#include <filesystem>
+#include <regex>
 #include <sstream>
 
-namespace fs = std::filesystem;
-
 namespace {
-
-constexpr char kBinary[] = "Contents/MacOS/cloud-quay-ui";
-constexpr char kInfo[] = "Contents/Resources/INFO";
 
 std::string Info(int build) {
     return "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=" + std::to_string(build) +
            "\nicon_overlay_version=3\n";
 }
 
-std::string ClientScript(int build) {
-    return "#!/bin/sh\necho \"started " + std::to_string(build) + " in $PWD\" > \"$KQ_TEST_MAILBOX\"\n";
-}
+// A FIFO that is open for both never ends.
+constexpr char kReadMailbox[] = "mkfifo -m 666 \"$0\" && exec cat <>\"$0\"";
 
 }  // namespace
 
-LauncherTest::LauncherTest() : home_(At("home")), mailbox_(At("mailbox")) {
+LauncherTest::LauncherTest()
+    : home_(At("home")), bundle_(At("bundle")), mailbox_({"/bin/bash", "-c", kReadMailbox, At("mailbox")}) {
     fs::create_directories(home_);
     fs::create_directories(At("run"));
     fs::permissions(At("run"), fs::perms::owner_all);
-    environment_ = {
-        {"HOME", home_},
-        {"KQ_TEST_MAILBOX", mailbox_.path()},
-        {"LANG", "C.UTF-8"},
-        {"PATH", "/usr/bin:/bin"},
-        {"QT_QPA_PLATFORM", "offscreen"},
-        {"TZ", "UTC"},
-        {"XDG_RUNTIME_DIR", At("run")},
-    };
+    fs::permissions(folder(), static_cast<fs::perms>(0755));
+    environment_ = {{"HOME", home_},     {"KQ_TEST_MAILBOX", At("mailbox")},
+                    {"LANG", "C.UTF-8"}, {"QT_QPA_PLATFORM", "offscreen"},
+                    {"TZ", "UTC"},       {"XDG_RUNTIME_DIR", At("run")}};
     // What the sanitizers' runtimes were told goes on to the launcher.
     for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"}) {
         if (const char* value = std::getenv(name)) {
@@ -50,35 +40,33 @@ void LauncherTest::LayBundle(int build) {
     if (!fs::exists(binary)) {
         fs::copy_file(KQ_LAUNCHER, binary);
     }
-    Write(At("bundle/Contents/Resources/INFO"), Info(build));
-    WritePackage(At("bundle/Contents/Resources/package/tessaly.kpk"), ClientEntries(build));
+    Write(bundle_ + "/Contents/Resources/INFO", Info(build));
+    WritePackage(Package(), ClientEntries(build));
 }
 
 std::vector<PackageEntry> LauncherTest::ClientEntries(int build) {
     const std::string number = std::to_string(build);
-    return {
-        {"Contents/", "", S_IFDIR, 0755},
-        {"Contents/Resources/", "", S_IFDIR, 0755},
-        {"Contents/Resources/only-in-" + number, number},
-        {"Contents/Resources/current", "only-in-" + number, S_IFLNK, 0777},
-        {"Contents/Resources/empty/", "", S_IFDIR, 0755},
-        {"Contents/Resources/Größe und 日本語.txt", "non-ASCII"},
-        {"Contents/Resources/large", std::string(300000, static_cast<char>('a' + build % 26))},
-        {"Contents/MacOS/", "", S_IFDIR, 0755},
-        {kBinary, ClientScript(build), S_IFREG, 0755},
-        {kInfo, Info(build)},
-    };
+    const std::string script = "#!/bin/sh\necho \"started " + number + " in $PWD\" > \"$KQ_TEST_MAILBOX\"\n";
+    return {{"Contents/", "", S_IFDIR, 0755},
+            {"Contents/Resources/", "", S_IFDIR, 0755},
+            {"Contents/Resources/only-in-" + number, number},
+            {"Contents/Resources/current", "only-in-" + number, S_IFLNK, 0777},
+            {"Contents/Resources/empty/", "", S_IFDIR, 0755},
+            {"Contents/Resources/Größe und 日本語.txt", "non-ASCII"},
+            {"Contents/Resources/large", std::string(300000, static_cast<char>('a' + build % 26))},
+            {"Contents/MacOS/", "", S_IFDIR, 0755},
+            {"Contents/MacOS/cloud-quay-ui", script, S_IFREG, 0755},
+            {"Contents/Resources/INFO", Info(build)}};
 }
 
 Tree LauncherTest::ClientTree(int build) const {
-    const std::string folder = At("expected-" + std::to_string(build));
-    if (!fs::exists(folder)) {
+    const std::string root = At("expected-" + std::to_string(build));
+    if (!fs::exists(root)) {
         for (const PackageEntry& entry : ClientEntries(build)) {
-            const std::string path = folder + "/" + entry.path;
+            const std::string path = root + "/" + entry.path;
             if (entry.type == S_IFDIR) {
                 fs::create_directories(path);
             } else if (entry.type == S_IFLNK) {
-                fs::create_directories(fs::path(path).parent_path());
                 fs::create_symlink(entry.content, path);
             } else {
                 Write(path, entry.content);
@@ -86,7 +74,7 @@ Tree LauncherTest::ClientTree(int build) const {
             }
         }
     }
-    return ReadTree(folder);
+    return ReadTree(root);
 }
 
 void LauncherTest::InstallClient(int build) const {
@@ -97,8 +85,28 @@ void LauncherTest::InstallClient(int build) const {
 }
 
 void LauncherTest::LogEverything() const {
-    Write(At("bundle/Contents/Resources/log/launcher.debug"),
+    Write(bundle_ + "/Contents/Resources/log/launcher.debug",
           "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=6\n");
+}
+
+Lines LauncherTest::Arguments(Lines prefix) const {
+    prefix.push_back(bundle_ + "/Contents/MacOS/kelvane-quay-launcher");
+    return prefix;
+}
+
+Lines LauncherTest::AsNobody(const Lines& folders) {
+    const std::string user = std::to_string(kNobody);
+    for (const std::string& folder : folders) {
+        RunProcess({"/bin/chown", "--recursive", user + ":" + user, folder});
+    }
+    return {"/usr/bin/setpriv", "--reuid=" + user, "--regid=" + user, "--clear-groups"};
+}
+
+Lines LauncherTest::Traced(const Lines& arguments) const {
+    // A traced process can't look for leaks.
+    Lines all = {"/usr/bin/env", "ASAN_OPTIONS=detect_leaks=0", "/usr/bin/strace", "-f", "-qq", "-o", At("trace")};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return all;
 }
 
 std::string LauncherTest::StartedLine(int build) const {
@@ -106,32 +114,30 @@ std::string LauncherTest::StartedLine(int build) const {
 }
 
 void LauncherTest::ExpectLaunched(const Outcome& outcome, int build) {
-    EXPECT_FALSE(outcome.timedOut);
     EXPECT_EQ(outcome.exitCode, 0) << "signal " << outcome.signal;
-    EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output + outcome.errors, "");
     EXPECT_EQ(mailbox_.ReadLine(), StartedLine(build));
 }
 
-std::vector<std::string> LauncherTest::LogLines() const {
-    regex_t form;
-    EXPECT_EQ(regcomp(&form,
-                      "^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2} \\( *[0-9]+: *[0-9]+\\) (\\[[A-Z]+\\]) "
-                      "[a-z-]+\\.cpp\\([0-9]+\\): (.*)$",
-                      REG_EXTENDED),
-              0);
-    std::vector<std::string> lines;
+void LauncherTest::ExpectInstalled(int build, const Tree& others) const {
+    Tree expected = others;
+    expected["KelvaneQuay.app"] = "755 folder";
+    for (const auto& [path, description] : ClientTree(build)) {
+        expected["KelvaneQuay.app/" + path] = description;
+    }
+    EXPECT_EQ(PrivateTree(), expected);
+}
+
+Lines LauncherTest::LogLines() const {
+    static const std::regex form(
+        R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d \( *\d+: *\d+\) (\[[A-Z]+\]) [a-z-]+\.cpp\(\d+\): (.*))");
+    Lines lines;
     std::istringstream text(Read(Private("log/launcher.log")));
     for (std::string line; std::getline(text, line);) {
-        regmatch_t match[3] = {};
-        EXPECT_EQ(regexec(&form, line.c_str(), 3, match, 0), 0) << line;
-        const auto part = [&](int at) {
-            return line.substr(static_cast<std::size_t>(match[at].rm_so),
-                               static_cast<std::size_t>(match[at].rm_eo - match[at].rm_so));
-        };
-        lines.push_back(part(1) + " " + part(2));
+        std::smatch match;
+        EXPECT_TRUE(std::regex_match(line, match, form)) << line;
+        lines.push_back(match[1].str() + " " + match[2].str());
     }
-    regfree(&form);
     return lines;
 }
 

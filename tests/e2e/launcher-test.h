@@ -8,6 +8,8 @@
 #include "process.h"
 #include "test-folder.h"
 
+using Lines = std::vector<std::string>;
+
 // A bundle in the test's folder, with the launcher in it, and a home. The client in the packages is a script that says
 // in the test's mailbox that it was started, so that a test knows what the launcher started without waiting by guess.
 class LauncherTest : public FolderTest {
@@ -18,10 +20,8 @@ protected:
     void LayBundle(int build);
 
     // The entries of a client of a build: what the package layout asks for, links, folders and odd names included, with
-    // INFO last and the binary the one before.
+    // INFO last and the binary the one before; and what they look like once they are installed.
     static std::vector<PackageEntry> ClientEntries(int build);
-
-    // What those entries look like once they are installed.
     Tree ClientTree(int build) const;
 
     // Installs a client as an earlier run would have left it.
@@ -30,9 +30,15 @@ protected:
     // Puts a level file into the bundle that has everything logged.
     void LogEverything() const;
 
-    // Starts the launcher and waits for its end.
-    Outcome Launch(uid_t user = 0) { return Process(Arguments(), environment_, user).Wait(); }
-    std::vector<std::string> Arguments() const { return {At("bundle/Contents/MacOS/kelvane-quay-launcher")}; }
+    // Starts the launcher, with a program in front that is to start it, and waits for its end.
+    Lines Arguments(Lines prefix = {}) const;
+    Outcome Launch(const Lines& prefix = {}) const { return RunProcess(Arguments(prefix), environment_); }
+
+    // The prefix for a user who is not root, to whom these folders are given.
+    static Lines AsNobody(const Lines& folders);
+
+    // The prefix for strace with these arguments, all threads followed, what it traces in the file "trace".
+    Lines Traced(const Lines& arguments) const;
 
     // What the client says when it has been started: "started BUILD in WORKINGFOLDER".
     std::string StartedLine(int build) const;
@@ -40,16 +46,21 @@ protected:
     // Checks a good run: exit code 0, nothing on the standard streams, and the client of this build started.
     void ExpectLaunched(const Outcome& outcome, int build);
 
+    // Checks that this client lies in the private folder, and no more than it and what else is named.
+    void ExpectInstalled(int build, const Tree& others = {}) const;
+
     // The text part of each line of the log, without time, ids, file and line: "[ERROR] failed to ...".
-    std::vector<std::string> LogLines() const;
+    Lines LogLines() const;
 
     std::string Private(const std::string& name) const { return home_ + "/.KelvaneQuay/" + name; }
     std::string App() const { return Private("KelvaneQuay.app"); }
+    std::string Package() const { return bundle_ + "/Contents/Resources/package/tessaly.kpk"; }
 
     // The tree of the private folder without the log.
     Tree PrivateTree() const;
 
     std::string home_;
+    std::string bundle_;
     Environment environment_;
-    Mailbox mailbox_;
+    Process mailbox_;
 };

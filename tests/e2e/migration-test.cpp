@@ -1,105 +1,86 @@
 // A first install from the older product.
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <filesystem>
-
 #include "launcher-test.h"
 #include "volume.h"
 
-namespace fs = std::filesystem;
-
 namespace {
-
-using Lines = std::vector<std::string>;
 
 class MigrationTest : public LauncherTest {
 protected:
-    // The older product's folder with data, an application and a leftover.
-    void LayOlder() const {
+    // The older product's folder with data, an application and a leftover, and what it looks like.
+    Tree LayOlder() const {
         Write(Older("data/db/notes"), "precious");
         Write(Older("data/empty"), "");
         fs::create_symlink("db", Older("data/link"));
-        Write(Older("Tessaly.app/Contents/Resources/INFO"), "[Version]\nbuild_version=10\n");
+        Write(Older("Tessaly.app/Contents/Resources/INFO"), "[Version]\nbuild_version=9000\n");
         Write(Older("app/leftover"), "aged");
         Write(Older("log/old.log"), "lines");
+        return ReadTree(home_ + "/.Tessaly");
     }
 
     std::string Older(const std::string& name) const { return home_ + "/.Tessaly/" + name; }
+
+    const Lines notMoved_ = {"[ERROR] Failed to move data to Kelvane Quay folder"};
 };
 
 TEST_F(MigrationTest, TheDataMovesAndTheRestGoes) {
+    const Tree moved = {
+        {"db", "755 folder"}, {"db/notes", "644 file precious"}, {"empty", "644 file "}, {"link", "777 link db"}};
+    const Tree mine = {{"mine", "644 file newer"}};
+    const struct {
+        const char* about;
+        std::function<void()> lay;
+        Tree data;
+        bool stays;  // the older folder, but for what is aged
+        Lines log;
+    } cases[] = {
+        {"as it was left", [] {}, moved, false, {}},
+        {"data that is already there stays", [&] { Write(Private("data/mine"), "newer"); }, mine, false, notMoved_},
+        {"an empty new folder is replaced", [&] { fs::create_directories(Private("data")); }, moved, false, {}},
+        {"no data", [&] { fs::remove_all(Older("data")); }, {}, false, {}},
+        {"a private copy is there", [&] { InstallClient(999); }, {}, true, {}},
+        {"a file in the aged folder's place",
+         [&] {
+             InstallClient(999);
+             fs::remove_all(Older("app"));
+             Write(Older("app"), "a file");
+         },
+         {},
+         true,
+         {}},
+        {"the home is reached through a link",
+         [&] {
+             fs::create_symlink(home_, At("link"));
+             environment_["HOME"] = home_ = At("link");
+         },
+         {},
+         true,
+         {}},
+    };
+    LayBundle(1000);
+    for (const auto& entry : cases) {
+        SCOPED_TRACE(entry.about);
+        fs::remove_all(home_);
+        Tree older = LayOlder();
+        older.erase("app");
+        older.erase("app/leftover");
+        entry.lay();
+        const Outcome outcome = Launch();
+        EXPECT_EQ(outcome.exitCode, 0);
+        EXPECT_NE(mailbox_.ReadLine().find("started 1000 in "), std::string::npos);
+        EXPECT_EQ(Below(PrivateTree(), "data"), entry.data);
+        EXPECT_EQ(fs::exists(Older("")), entry.stays);
+        EXPECT_EQ(ReadTree(home_ + "/.Tessaly"), entry.stays ? older : Tree());
+        EXPECT_EQ(LogLines(), entry.log);
+    }
+}
+
+TEST_F(MigrationTest, TheOlderClientIsStopped) {
     LayBundle(1000);
     LayOlder();
-    const Tree data = ReadTree(Older("data"));
-    FakeClient client(FakeClient::Manners::Prompt);
+    FakeClient client(manners::kPrompt);
     Write(Older("ui.pid"), "pid=" + std::to_string(client.id()) + "\n");
     ExpectLaunched(Launch(), 1000);
-    EXPECT_EQ(client.AwaitEnd(), SIGTERM);
-    EXPECT_EQ(Below(PrivateTree(), "data"), data);
-    EXPECT_FALSE(fs::exists(Older("")));
-    EXPECT_EQ(LogLines(), Lines());
-}
-
-TEST_F(MigrationTest, WhileThePrivateCopyIsThereOnlyTheAgedFolderGoes) {
-    LayBundle(2000);
-    InstallClient(1000);
-    LayOlder();
-    Tree older = ReadTree(home_ + "/.Tessaly");
-    older.erase("app");
-    older.erase("app/leftover");
-    ExpectLaunched(Launch(), 2000);
-    EXPECT_EQ(ReadTree(home_ + "/.Tessaly"), older);
-
-    // A file in the aged folder's place goes like a folder.
-    Write(Older("app"), "a file");
-    ExpectLaunched(Launch(), 2000);
-    EXPECT_EQ(ReadTree(home_ + "/.Tessaly"), older);
-}
-
-TEST_F(MigrationTest, DataThatIsAlreadyThereStaysAndTheOlderFolderGoesAllTheSame) {
-    LayBundle(1000);
-    LayOlder();
-    Write(Private("data/mine"), "newer");
-    ExpectLaunched(Launch(), 1000);
-    const Tree kept = {{"mine", "644 file newer"}};
-    EXPECT_EQ(Below(PrivateTree(), "data"), kept);
-    EXPECT_FALSE(fs::exists(Older("")));
-    EXPECT_EQ(LogLines(), (Lines{"[ERROR] Failed to move data to Kelvane Quay folder"}));
-}
-
-TEST_F(MigrationTest, AnEmptyNewDataFolderIsReplaced) {
-    LayBundle(1000);
-    LayOlder();
-    const Tree data = ReadTree(Older("data"));
-    fs::create_directories(Private("data"));
-    ExpectLaunched(Launch(), 1000);
-    EXPECT_EQ(Below(PrivateTree(), "data"), data);
-}
-
-TEST_F(MigrationTest, WithoutDataTheOlderFolderJustGoes) {
-    LayBundle(1000);
-    LayOlder();
-    fs::remove_all(Older("data"));
-    ExpectLaunched(Launch(), 1000);
-    EXPECT_FALSE(fs::exists(Older("")));
-    EXPECT_FALSE(fs::exists(Private("data")));
-    EXPECT_EQ(LogLines(), Lines());
-}
-
-TEST_F(MigrationTest, AHomeThatIsReachedThroughALinkIsNotMigrated) {
-    LayBundle(1000);
-    LayOlder();
-    fs::create_symlink(home_, At("link"));
-    const Tree older = ReadTree(home_ + "/.Tessaly");
-    environment_["HOME"] = At("link");
-    const Outcome outcome = Launch();
-    EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_NE(mailbox_.ReadLine().find("started 1000"), std::string::npos);
-    Tree left = older;
-    left.erase("app");
-    left.erase("app/leftover");
-    EXPECT_EQ(ReadTree(home_ + "/.Tessaly"), left);
+    EXPECT_EQ(client.AwaitEnd(), 128 + SIGTERM);
 }
 
 TEST_F(MigrationTest, OverAVolumeBorderFilesMoveByCopyAndALinkEndsTheMove) {
@@ -111,8 +92,10 @@ TEST_F(MigrationTest, OverAVolumeBorderFilesMoveByCopyAndALinkEndsTheMove) {
     fs::permissions(Older("data/db/notes"), static_cast<fs::perms>(0600));
     ExpectLaunched(Launch(), 1000);
     // Copies have the mode of new files.
-    const Tree moved = {{"db", "755 folder"}, {"db/notes", "644 file precious"}, {"empty", "644 file "}};
-    EXPECT_EQ(Below(PrivateTree(), "data"), moved);
+    ExpectInstalled(1000, {{"data", "755 folder"},
+                           {"data/db", "755 folder"},
+                           {"data/db/notes", "644 file precious"},
+                           {"data/empty", "644 file "}});
     EXPECT_FALSE(fs::exists(Older("")));
     EXPECT_EQ(LogLines(), Lines());
 
@@ -120,23 +103,21 @@ TEST_F(MigrationTest, OverAVolumeBorderFilesMoveByCopyAndALinkEndsTheMove) {
     fs::remove_all(Private("data"));
     LayOlder();
     ExpectLaunched(Launch(), 1000);
-    EXPECT_EQ(LogLines(), (Lines{"[ERROR] Failed to move data to Kelvane Quay folder"}));
+    EXPECT_EQ(LogLines(), notMoved_);
     EXPECT_FALSE(fs::exists(Private("data/link")));
     EXPECT_FALSE(fs::exists(Older("")));
 }
 
 TEST_F(MigrationTest, AFolderInOtherLettersIsNotTheOlderProducts) {
-    const Volume volume(Volume::ExFat, At("volume"), 64 << 20);
+    const Volume volume(Volume::ExFat, At("volume"), 16 << 20);
     KQ_NEED(volume);
     home_ = environment_["HOME"] = At("volume/home");
     LayBundle(1000);
-    // The volume has no links.
     std::vector<PackageEntry> entries = ClientEntries(1000);
-    entries.erase(entries.begin() + 3);
-    WritePackage(At("bundle/Contents/Resources/package/tessaly.kpk"), entries);
+    entries.erase(entries.begin() + 3);  // the volume has no links
+    WritePackage(Package(), entries);
     Write(home_ + "/.TESSALY/data/notes", "precious");
     ExpectLaunched(Launch(), 1000);
-    EXPECT_TRUE(fs::exists(App() + "/Contents/Resources/INFO"));
     EXPECT_EQ(Read(home_ + "/.TESSALY/data/notes"), "precious");
 
     fs::remove_all(App());

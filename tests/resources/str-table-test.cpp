@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
@@ -14,26 +13,15 @@
 
 namespace {
 
-int RowsWith(const char* text) {
-    int rows = 0;
-    for (const StrTable::Row& row : StrTable::kRows) {
-        rows += QString::fromUtf8(row.text).contains(QLatin1String(text)) ? 1 : 0;
-    }
-    return rows;
+QString Text(const char* text) {
+    return QString::fromUtf8(text);
 }
 
-// Installs a catalog for as long as it lives.
-class Installed {
-public:
-    explicit Installed(const char* code) {
-        EXPECT_TRUE(translator_.load(QStringLiteral(":/%1.qm").arg(QLatin1String(code)))) << code;
-        QCoreApplication::installTranslator(&translator_);
-    }
-    ~Installed() { QCoreApplication::removeTranslator(&translator_); }
-
-private:
-    QTranslator translator_;
-};
+int RowsWith(const char* text) {
+    return static_cast<int>(
+        std::count_if(std::begin(StrTable::kRows), std::end(StrTable::kRows),
+                      [text](const StrTable::Row& row) { return Text(row.text).contains(Text(text)); }));
+}
 
 class StrTableTest : public ::testing::Test {
 protected:
@@ -59,15 +47,12 @@ TEST_F(StrTableTest, TheFiguresOfTheTable) {
     EXPECT_EQ(keys.size(), 1096);
     EXPECT_EQ(texts.size(), 966);
     EXPECT_LE(longest, 360);
-    EXPECT_EQ(RowsWith("%1"), 107);
-    EXPECT_EQ(RowsWith("%2"), 20);
-    EXPECT_EQ(RowsWith("%3"), 10);
-    EXPECT_EQ(RowsWith("%4"), 8);
-    EXPECT_EQ(RowsWith("%5"), 0);
-    EXPECT_EQ(RowsWith("<a href=\""), 8);
-    EXPECT_EQ(RowsWith("<a href=\"https://"), 6);
-    EXPECT_EQ(RowsWith("<a href=\"%"), 2);
-    EXPECT_EQ(RowsWith("[ProductName]"), 38);
+    const std::pair<const char*, int> rows[] = {{"%1", 107},        {"%2", 20},        {"%3", 10},
+                                                {"%4", 8},          {"%5", 0},         {"<a href=\"https://", 6},
+                                                {"<a href=\"%", 2}, {"<a href=\"", 8}, {"[ProductName]", 38}};
+    for (const auto& [text, count] : rows) {
+        EXPECT_EQ(RowsWith(text), count) << text;
+    }
 }
 
 TEST_F(StrTableTest, RowsThatOtherProgramsCount) {
@@ -115,22 +100,6 @@ TEST_F(StrTableTest, EscapesInATranslationBecomeControlCharacters) {
 }
 
 TEST_F(StrTableTest, EveryCatalogHasEveryText) {
-    for (const QFileInfo& file : QDir(QStringLiteral(":/")).entryInfoList({QStringLiteral("*.qm")})) {
-        SCOPED_TRACE(file.fileName().toStdString());
-        QTranslator catalog;
-        ASSERT_TRUE(catalog.load(file.filePath()));
-        for (const StrTable::Row& row : StrTable::kRows) {
-            const QString text = catalog.translate("global", row.text);
-            EXPECT_FALSE(text.isEmpty()) << row.key;
-            if (file.baseName() == QLatin1String("enu")) {
-                EXPECT_EQ(text, QString::fromUtf8(row.text));
-            }
-        }
-        EXPECT_EQ(catalog.translate("global", "Kelvane Quay Client"), QStringLiteral("Kelvane Quay Client"));
-    }
-}
-
-TEST_F(StrTableTest, TheDialogsTextsInEachLanguage) {
     const struct {
         const char* code;
         const char* ready;
@@ -160,11 +129,18 @@ TEST_F(StrTableTest, TheDialogsTextsInEachLanguage) {
     };
     for (const auto& expected : texts) {
         SCOPED_TRACE(expected.code);
-        const Installed catalog(expected.code);
-        EXPECT_EQ(StrTable::LoadStr(527), QString::fromUtf8(expected.ready));
-        EXPECT_EQ(StrTable::LoadStr(543), QString::fromUtf8(expected.initializing));
-        EXPECT_EQ(StrTable::LoadStr(1), StrTable::LoadStr(162));
-        EXPECT_EQ(StrTable::LoadStr(1), StrTable::LoadStr(226));
+        QTranslator catalog;
+        ASSERT_TRUE(catalog.load(QStringLiteral(":/%1.qm").arg(Text(expected.code))));
+        for (const StrTable::Row& row : StrTable::kRows) {
+            const QString text = catalog.translate("global", row.text);
+            EXPECT_FALSE(text.isEmpty()) << row.key;
+            EXPECT_TRUE(Text(expected.code) != Text("enu") || text == Text(row.text)) << row.key;
+        }
+        QCoreApplication::installTranslator(&catalog);
+        EXPECT_EQ(StrTable::LoadStr(527), Text(expected.ready));
+        EXPECT_EQ(StrTable::LoadStr(543), Text(expected.initializing));
+        EXPECT_EQ(StrTable::LoadStr(866), Text("Kelvane Quay Client"));
+        QCoreApplication::removeTranslator(&catalog);
     }
 }
 

@@ -1,15 +1,18 @@
 // Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads when
 // QT_QPA_GENERIC_PLUGINS names it. On each showing and hiding of a progress dialog it appends a line to the file that
-// KQ_PROBE_FILE names: what happened, the title, the label, the value, the font's family and size, and the same title,
-// label and value as a screen reader gets them, separated by "|". Where KQ_PROBE_KEYS is set, it presses Esc as soon as
-// the dialog is there, and closes it once more.
+// KQ_PROBE_FILE names: what happened, the title, the label, the value, the font's family and size, the dialog's size in
+// pixels and how it may change, its flags and modality, its buttons, and the same title, label and value as a screen
+// reader gets them, separated by "|". Each value that is shown in between has a line of its own. With KQ_PROBE_CLOSE
+// the dialog is closed as soon as it is there.
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
 #include <QGenericPlugin>
 #include <QKeyEvent>
+#include <QProgressBar>
 #include <QProgressDialog>
+#include <QPushButton>
 
 namespace {
 
@@ -34,24 +37,41 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         auto* dialog = qobject_cast<QProgressDialog*>(watched);
-        if (dialog != nullptr && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
-            QStringList line = {event->type() == QEvent::Show ? QStringLiteral("show") : QStringLiteral("hide"),
-                                dialog->windowTitle(),
-                                dialog->labelText(),
-                                QString::number(dialog->value()),
-                                dialog->font().family(),
-                                QString::number(dialog->font().pointSize())};
-            line += AsScreenReader(dialog);
-            QFile file(qEnvironmentVariable("KQ_PROBE_FILE"));
-            if (file.open(QIODevice::Append)) {
-                file.write(line.join(QLatin1Char('|')).toUtf8() + '\n');
-            }
-            if (event->type() == QEvent::Show && qEnvironmentVariableIsSet("KQ_PROBE_KEYS")) {
+        if (dialog == nullptr || (event->type() != QEvent::Show && event->type() != QEvent::Hide)) {
+            return false;
+        }
+        const bool isShown = event->type() == QEvent::Show;
+        const QSize pixels = dialog->size() * dialog->devicePixelRatioF();
+        const QSize room = dialog->maximumSize() - dialog->minimumSize();
+        const auto rest = static_cast<int>(dialog->windowFlags() & ~Qt::WindowType_Mask);
+        Write({isShown ? QStringLiteral("show") : QStringLiteral("hide"), dialog->windowTitle(), dialog->labelText(),
+               QString::number(dialog->value()), dialog->font().family(), QString::number(dialog->font().pointSize()),
+               QStringLiteral("%1x%2+%3x%4")
+                   .arg(pixels.width())
+                   .arg(pixels.height())
+                   .arg(room.width())
+                   .arg(room.height()),
+               QString::number(rest, 16), QString::number(dialog->isModal()),
+               QString::number(dialog->findChildren<QPushButton*>().size())},
+              AsScreenReader(dialog));
+        auto* bar = dialog->findChild<QProgressBar*>();
+        disconnect(bar, nullptr, this, nullptr);
+        if (isShown) {
+            connect(bar, &QProgressBar::valueChanged, this, [](int value) { Write({QString::number(value)}, {}); });
+            if (qEnvironmentVariableIsSet("KQ_PROBE_KEYS")) {
                 QCoreApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
                 QMetaObject::invokeMethod(dialog, "close", Qt::QueuedConnection);
             }
         }
         return false;
+    }
+
+private:
+    static void Write(const QStringList& seen, const QStringList& heard) {
+        QFile file(qEnvironmentVariable("KQ_PROBE_FILE"));
+        if (file.open(QIODevice::Append)) {
+            file.write((seen + heard).join(QLatin1Char('|')).toUtf8() + '\n');
+        }
     }
 };
 

@@ -15,88 +15,68 @@ void WritePackage(const std::string& file, const std::vector<PackageEntry>& entr
                   const std::string& filter) {
     fs::create_directories(fs::path(file).parent_path());
     archive* writer = archive_write_new();
-    ASSERT_EQ(archive_write_set_format_by_name(writer, format.c_str()), ARCHIVE_OK) << format;
-    if (!filter.empty()) {
-        ASSERT_EQ(archive_write_add_filter_by_name(writer, filter.c_str()), ARCHIVE_OK) << filter;
-    }
-    if (format == "zip") {
-        ASSERT_EQ(archive_write_set_options(writer, "hdrcharset=UTF-8"), ARCHIVE_OK);
-    }
-    ASSERT_EQ(archive_write_open_filename(writer, file.c_str()), ARCHIVE_OK) << archive_error_string(writer);
+    int result = archive_write_set_format_by_name(writer, format.c_str());
+    result |= filter.empty() ? 0 : archive_write_add_filter_by_name(writer, filter.c_str());
+    result |= format == "zip" ? archive_write_set_options(writer, "hdrcharset=UTF-8") : 0;
+    result |= archive_write_open_filename(writer, file.c_str());
     for (const PackageEntry& source : entries) {
         archive_entry* entry = archive_entry_new();
         archive_entry_set_pathname(entry, source.path.c_str());
         archive_entry_set_filetype(entry, source.type);
         archive_entry_set_perm(entry, source.mode);
+        const std::size_t size = source.type == S_IFREG ? source.content.size() : 0;
+        archive_entry_set_size(entry, static_cast<la_int64_t>(size));
         if (source.type == S_IFLNK) {
             archive_entry_set_symlink(entry, source.content.c_str());
-        } else if (source.type == S_IFREG) {
-            archive_entry_set_size(entry, static_cast<la_int64_t>(source.content.size()));
         }
-        ASSERT_EQ(archive_write_header(writer, entry), ARCHIVE_OK) << archive_error_string(writer);
-        if (source.type == S_IFREG) {
-            ASSERT_EQ(archive_write_data(writer, source.content.data(), source.content.size()),
-                      static_cast<la_ssize_t>(source.content.size()));
-        }
+        result |= archive_write_header(writer, entry);
+        EXPECT_EQ(archive_write_data(writer, source.content.data(), size), static_cast<la_ssize_t>(size));
         archive_entry_free(entry);
     }
-    ASSERT_EQ(archive_write_close(writer), ARCHIVE_OK) << archive_error_string(writer);
+    result |= archive_write_close(writer);
+    EXPECT_EQ(result, ARCHIVE_OK) << format << " " << filter;
     archive_write_free(writer);
 }
 
 namespace {
 
-std::string Describe(const fs::path& path) {
-    struct stat info = {};
-    if (lstat(path.c_str(), &info) != 0) {
-        return "unreadable";
-    }
+std::string Describe(const fs::directory_entry& entry) {
     std::ostringstream text;
-    text << std::oct << (info.st_mode & 07777U) << std::dec;
-    if (S_ISLNK(info.st_mode)) {
-        text << " link " << fs::read_symlink(path).string();
-    } else if (S_ISDIR(info.st_mode)) {
+    text << std::oct << static_cast<unsigned>(entry.symlink_status().permissions()) << std::dec;
+    if (entry.is_symlink()) {
+        text << " link " << fs::read_symlink(entry).string();
+    } else if (entry.is_directory()) {
         text << " folder";
-    } else if (S_ISREG(info.st_mode)) {
-        std::ifstream in(path, std::ios::binary);
+    } else if (entry.is_regular_file()) {
         std::ostringstream bytes;
-        bytes << in.rdbuf();
+        bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
         const std::string content = bytes.str();
-        text << " file ";
-        if (content.size() <= 200) {
-            text << content;
-        } else {
-            text << content.size() << " bytes #" << std::hash<std::string>()(content);
-        }
+        const bool isLong = content.size() > 200;
+        text << " file "
+             << (isLong
+                     ? std::to_string(content.size()) + " bytes #" + std::to_string(std::hash<std::string>()(content))
+                     : content);
     } else {
         text << " other";
     }
     return text.str();
 }
 
-void AddTree(const fs::path& folder, const std::string& prefix, Tree& tree) {
-    std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-        const std::string name = prefix + entry.path().filename().string();
-        tree[name] = Describe(entry.path());
-        if (entry.symlink_status().type() == fs::file_type::directory) {
-            AddTree(entry.path(), name + "/", tree);
-        }
-    }
-}
-
 }  // namespace
 
 Tree ReadTree(const std::string& folder) {
     Tree tree;
-    AddTree(folder, "", tree);
+    std::error_code absent;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, absent)) {
+        tree[entry.path().string().substr(folder.size() + 1)] = Describe(entry);
+    }
     return tree;
 }
 
 Tree Below(const Tree& tree, const std::string& prefix) {
     Tree part;
     for (const auto& [path, description] : tree) {
-        if (path.size() > prefix.size() && path.compare(0, prefix.size(), prefix) == 0 && path[prefix.size()] == '/') {
+        if (path.rfind(prefix + "/", 0) == 0) {
             part[path.substr(prefix.size() + 1)] = description;
         }
     }

@@ -11,7 +11,7 @@
 struct PackageEntry {
     std::string path;
     std::string content;      // of a file; the target of a link
-    unsigned type = S_IFREG;  // S_IFREG, S_IFDIR or S_IFLNK
+    unsigned type = S_IFREG;  // S_IFREG, S_IFDIR, S_IFLNK or S_IFIFO
     unsigned mode = 0644;     // permission bits
 };
 

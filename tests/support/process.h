@@ -3,101 +3,65 @@
 
 #include <sys/types.h>
 
+#include <QProcess>
 #include <map>
 #include <string>
-#include <thread>
 #include <vector>
 
 using Environment = std::map<std::string, std::string>;
 
+constexpr uid_t kNobody = 65534;  // a user who is not root
+
 // What became of a program.
 struct Outcome {
-    int exitCode = -1;      // -1 if a signal ended it
-    int signal = 0;         // the signal that ended it, or 0
-    std::string output;     // its standard output
-    std::string errors;     // its standard error
-    bool timedOut = false;  // it was killed after the limit
+    int exitCode = -1;   // -1 if a signal ended it
+    int signal = 0;      // that signal, or 0
+    std::string output;  // its standard output
+    std::string errors;  // its standard error
 };
 
-// A program that runs. Its standard output and error go to files of its own, so that a detached grandchild that keeps
-// them open holds nobody up.
+// A program that runs with exactly this environment, nothing to read, and its output kept for the test. It is killed
+// with the object.
 class Process {
 public:
-    // Starts `arguments[0]` with exactly this environment. `user` other than 0 is the user and group to run as.
-    Process(const std::vector<std::string>& arguments, const Environment& environment, uid_t user = 0);
-    ~Process();  // kills what still runs
+    explicit Process(const std::vector<std::string>& arguments, const Environment& environment = {});
+    ~Process();
 
-    Process(const Process&) = delete;
-    Process& operator=(const Process&) = delete;
-
-    pid_t id() const { return process_; }
-
-    // Waits for the end. After `seconds` the program is killed: a limit for a test gone wrong, not a measure.
-    Outcome Wait(int seconds = 60);
+    // The next line that it prints; waits for it. The limits here and below, a minute, are for a test gone wrong.
+    std::string ReadLine();
 
     void Signal(int number) const;
+    Outcome Wait();
 
 private:
-    pid_t process_ = -1;
-    int output_ = -1;
-    int errors_ = -1;
+    QProcess process_;
 };
 
 // Starts a program and waits for its end.
-Outcome RunProcess(const std::vector<std::string>& arguments, const Environment& environment, uid_t user = 0);
+Outcome RunProcess(const std::vector<std::string>& arguments, const Environment& environment = {});
 
-// A FIFO in which programs leave lines for the test.
-class Mailbox {
-public:
-    explicit Mailbox(const std::string& path);
-    ~Mailbox();
+// What a running client does. Each tells its process id first.
+namespace manners {
+constexpr char kPrompt[] = "echo $$; exec sleep 60";                             // ends on SIGTERM
+constexpr char kSlow[] = "trap 'sleep 1.2; exit 7' TERM; echo $$; read -r <&3";  // ends a while after SIGTERM
+constexpr char kDeaf[] =
+    "trap 'echo term' TERM; echo $$; while read -r <&3; do :; done";  // tells of SIGTERM, and stays
+constexpr char kZombie[] = "sleep 0.1 & echo $!; exec sleep 60";      // has ended, and nobody cares
+}  // namespace manners
 
-    Mailbox(const Mailbox&) = delete;
-    Mailbox& operator=(const Mailbox&) = delete;
-
-    const std::string& path() const { return path_; }
-
-    // The next line without its end; waits for it. Empty if none comes within the limit for a test gone wrong.
-    std::string ReadLine(int seconds = 30);
-
-    // Whether nothing waits to be read now.
-    bool IsEmpty();
-
-private:
-    std::string path_;
-    int descriptor_ = -1;
-    std::string pending_;
-};
-
-// A process that stands for a running client. It is reaped as soon as it ends, like a process that is nobody's child
-// here, unless it is to stay a zombie.
+// A process that stands for a running client: a shell script beneath a shell that takes notice of its end.
 class FakeClient {
 public:
-    enum class Manners {
-        Prompt,  // ends at once on SIGTERM
-        Slow,    // ends three seconds after SIGTERM
-        Deaf,    // ignores SIGTERM
-        Zombie,  // has ended already, and nobody has taken notice
-    };
-
-    explicit FakeClient(Manners manners);
+    explicit FakeClient(const std::string& script);
     ~FakeClient();
 
-    FakeClient(const FakeClient&) = delete;
-    FakeClient& operator=(const FakeClient&) = delete;
+    pid_t id() const { return id_; }
+    std::string ReadLine() { return shell_.ReadLine(); }
 
-    pid_t id() const { return process_; }
-
-    // Waits until the process was sent SIGTERM (Deaf and Slow only).
-    void AwaitTerm();
-
-    // Waits for the end and returns the signal that ended it, or 0 for an exit. Not for a zombie.
+    // Waits for its end: the exit code, or 128 and the number of the signal that ended it.
     int AwaitEnd();
 
 private:
-    Manners manners_;
-    pid_t process_ = -1;
-    int messages_ = -1;
-    int status_ = 0;
-    std::thread reaper_;
+    Process shell_;
+    pid_t id_;
 };

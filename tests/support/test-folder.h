@@ -1,37 +1,52 @@
-// A fresh folder for each test.
+// A fresh folder for each test, and what a machine must be able to do for some.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <functional>
 #include <string>
 
-// Gives each test an empty folder of its own. A folder of a passed test is removed; that of a failed one is kept and
-// its path printed, so that whoever looks into the failure finds what the test left.
+namespace fs = std::filesystem;
+
+// Gives each test an empty folder of its own, removed when the test has passed; that of a failed one is kept and named.
 class FolderTest : public ::testing::Test {
 protected:
     FolderTest();
     ~FolderTest() override;
 
-    // The folder's absolute path, UTF-8, symbolic links resolved, without a trailing "/".
+    // The folder's absolute path, UTF-8, symbolic links resolved, without a trailing "/"; and a path below it.
     const std::string& folder() const { return folder_; }
-
-    // A path below the folder.
     std::string At(const std::string& name) const { return folder_ + "/" + name; }
 
-    // Creates or replaces a file with the given bytes, parents included. Fails the test when it can't.
-    void Write(const std::string& path, const std::string& bytes) const;
-
-    // The bytes of a file; fails the test when it can't be read.
+    // Writes a file, parents included; reads one. Fail the test when they can't.
+    static void Write(const std::string& path, const std::string& bytes);
     static std::string Read(const std::string& path);
 
-    // The standard error stream of this process while `action` runs, as text.
-    template <typename Action>
-    static std::string StandardErrorOf(Action action) {
-        ::testing::internal::CaptureStderr();
-        action();
-        return ::testing::internal::GetCapturedStderr();
-    }
+    // What `action` writes to the standard error stream of this process.
+    static std::string StandardErrorOf(const std::function<void()>& action);
 
 private:
     std::string folder_;
 };
+
+// What not every machine and every user can do.
+enum class Ability {
+    Linux,       // what a kernel of another kind has not: namespaces, /proc
+    Root,        // be another user
+    OwnThreads,  // tell a program's threads from those of a sanitizer
+    Tracing,     // see and change a program's system calls, by strace(1)
+};
+
+// The reason why it can't be done here, empty if it can.
+std::string WhyNot(Ability ability);
+
+// Skips the test, whose body it must stand in, with the reason if there is one: KQ_NEED(Ability::Root).
+#define KQ_NEED(what)                                               \
+    if (const std::string reason = WhyNot(what); !reason.empty()) { \
+        GTEST_SKIP() << reason;                                     \
+    }
+
+// Runs `action` as a user who is not root: where the tests run as root, as nobody in a child process, whose failed
+// expectations fail the test. The folders that it works in have to be open to everyone.
+void AsOrdinaryUser(const std::function<void()>& action);

@@ -1,13 +1,12 @@
-// Owners of what the system hands out. Move-only; each gives back what it holds when it goes.
+// Owners of the system's file handles.
 #pragma once
 
 #include <dirent.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <memory>
 
-// A POSIX descriptor, -1 for none. Source: close(2).
+// A POSIX descriptor. Move-only; -1 stands for none. Source: close(2).
 class Fd {
 public:
     explicit Fd(int descriptor = -1) : descriptor_(descriptor) {}
@@ -40,15 +39,9 @@ private:
     int descriptor_;
 };
 
-// A directory stream, null for none. Source: closedir(3), which fails for no stream that is open.
+// A directory stream. Move-only; null stands for none. Source: closedir(3), whose one failure, EBADF, can't happen
+// here.
 struct CloseDirStream {
     void operator()(DIR* stream) const { ::closedir(stream); }
 };
 using DirStream = std::unique_ptr<DIR, CloseDirStream>;
-
-// A stream of the C library, null for none. Whoever writes to one flushes it first to learn of a late failure. Source:
-// fclose(3).
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;

@@ -1,88 +1,189 @@
-#include "logger-test.h"
+#include "log/logger.h"
 
-#include <regex.h>
+#include <pthread.h>
+#include <sys/resource.h>
+#include <syslog.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
-#include <cstdlib>
+#include <chrono>
 #include <cstring>
 #include <ctime>
-#include <filesystem>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <thread>
+#include <vector>
 
-#include "fake-system.h"
 #include "log/log-statement.h"
+#include "process.h"
+#include "test-folder.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-using State = LoggerInspector;
+std::atomic<std::time_t> stoppedAt{-1};
+std::string systemLog;
 
+}  // namespace
+
+// This program's own vsyslog(3) and time(2) take the place of the system's.
+extern "C" {
+void vsyslog(int priority, const char* format, std::va_list arguments) {
+    char text[1024];
+    std::vsnprintf(text, sizeof(text), format, arguments);
+    systemLog += std::to_string(priority) + " " + text;
+    errno = ENOTSOCK;
+}
+
+std::time_t time(std::time_t* result) noexcept {
+    const std::time_t stopped = stoppedAt;
+    const std::time_t now =
+        stopped != -1 ? stopped : std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    return result != nullptr ? *result = now : now;
+}
+}
+
+namespace {
+
+constexpr std::uintmax_t kBiggest = 5'242'880;  // bytes; the biggest log file that isn't rotated
+constexpr std::size_t kStamp = 20;              // bytes of a time stamp
 constexpr Logger::Type kTypeAboveFile = static_cast<Logger::Type>(7);
-constexpr const char* kStamp = "[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2} ";
 
-template <typename Action>
-std::string StandardOutputOf(Action action) {
-    ::testing::internal::CaptureStdout();
-    action();
-    return ::testing::internal::GetCapturedStdout();
-}
-
-// Whether the whole text matches an extended regular expression of POSIX.
-bool Matches(const std::string& text, const std::string& pattern) {
-    regex_t compiled;
-    if (regcomp(&compiled, ("^(" + pattern + ")$").c_str(), REG_EXTENDED | REG_NOSUB) != 0) {
-        return false;
+class LoggerTest : public FolderTest {
+protected:
+    void Open(int count = 50, Logger::Type type = Logger::TYPE_FILE, const std::string& levels = "") const {
+        Write(At("levels"), levels);
+        EXPECT_EQ(Logger::Initialize(type, At("log"), At("levels"), count, Logger::SCOPE_THREAD), 0);
     }
-    const bool matches = regexec(&compiled, text.c_str(), 0, nullptr, 0) == 0;
-    regfree(&compiled);
-    return matches;
-}
 
-// Whether the whole text is time stamp and text in turn; `texts` holds a regular expression for each.
-::testing::AssertionResult IsStamped(const std::string& text, const std::vector<std::string>& texts) {
-    std::string pattern;
-    for (const std::string& one : texts) {
-        pattern += kStamp + one;
-    }
-    if (Matches(text, pattern)) {
-        return ::testing::AssertionSuccess();
-    }
-    return ::testing::AssertionFailure() << '"' << text << "\" is not " << pattern;
-}
+    // Logs a line of a text.
+    static void Log(const std::string& text) { Logger::LogMsg(Logger::LEVEL_ERROR, "c", "%s\n", text.c_str()); }
 
-// Sets TZ, or unsets it with null, and puts back what it was.
-class TimeZone {
-public:
-    explicit TimeZone(const char* zone) {
-        if (const char* before = std::getenv("TZ")) {
-            before_ = before;
-            was_set_ = true;
+    // Logs a line into a file of nothing but a hole, after which it is bigger than allowed.
+    void Rotate(int count, const std::string& text) const {
+        Write(At("log"), "");
+        fs::resize_file(At("log"), kBiggest);
+        Open(count);
+        Log(text);
+    }
+
+    // The text of the log without its time stamps; removes it.
+    std::string TakeLog(const std::string& text) const {
+        static const std::regex stamp(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d )");
+        return std::regex_replace(text, stamp, "@");
+    }
+    std::string TakeLog() const {
+        const std::string text = Read(At("log"));
+        fs::resize_file(At("log"), 0);
+        return TakeLog(text);
+    }
+
+    // The log's files by their names behind "log", each with its last line without the time stamp.
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> files;
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder())) {
+            if (const std::string name = entry.path().filename().string(); name.rfind("log", 0) == 0) {
+                const std::string text = fs::is_directory(entry) ? "folder" : Read(entry.path().string());
+                files[name.substr(3)] = text.size() > 40 ? text.substr(text.rfind(' ') + 1) : TakeLog(text);
+            }
         }
-        Set(zone);
+        return files;
     }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-    ~TimeZone() { Set(was_set_ ? before_.c_str() : nullptr); }
-
-    static void Set(const char* zone) {
-        if (zone != nullptr) {
-            setenv("TZ", zone, 1);
-        } else {
-            unsetenv("TZ");
-        }
-    }
-
-private:
-    std::string before_;
-    bool was_set_ = false;
 };
 
-__attribute__((format(printf, 3, 4))) void ThroughList(Logger::Level level, const char* component, const char* format,
-                                                       ...) {
-    std::va_list arguments;
-    va_start(arguments, format);
-    Logger::LogMsg2(level, component, format, arguments);
-    va_end(arguments);
+TEST_F(LoggerTest, EachDestination) {
+    // Before it is set up, warnings go to standard error.
+    EXPECT_EQ(TakeLog(StandardErrorOf([] {
+                  KQ_LOG_INFO("c", "info\n");
+                  Log("error");
+              })),
+              "@error\n");
+    const struct {
+        Logger::Type type;
+        const char* output;
+        const char* errors;
+        const char* system;
+        const char* file;  // null: none
+    } cases[] = {{Logger::TYPE_STDOUT, "@one\n", "", "", nullptr},
+                 {Logger::TYPE_STDERR, "", "@one\n", "", nullptr},
+                 {Logger::TYPE_SYSLOG, "", "", "3 one\n", nullptr},
+                 {kTypeAboveFile, "", "one\n", "", ""},  // opens its file, and writes elsewhere
+                 {Logger::TYPE_FILE, "", "", "", "@one\n"}};
+    for (const auto& one : cases) {
+        Open(50, one.type, "c=7\n");
+        systemLog.clear();
+        ::testing::internal::CaptureStdout();
+        const std::string errors = StandardErrorOf([] {
+            errno = E2BIG;
+            Logger::LogMsg(Logger::LEVEL_DEBUG, "c", "%s\n", "one");
+            EXPECT_EQ(errno, E2BIG);
+        });
+        EXPECT_EQ(TakeLog(::testing::internal::GetCapturedStdout()), one.output);
+        EXPECT_EQ(TakeLog(errors), one.errors);
+        EXPECT_EQ(systemLog, one.system);
+        EXPECT_EQ(fs::exists(At("log")), one.file != nullptr);
+        EXPECT_EQ(one.file != nullptr ? TakeLog() : "", one.file != nullptr ? one.file : "");
+    }
+}
+
+TEST_F(LoggerTest, ALineFieldByField) {
+    Open(50, Logger::TYPE_FILE, "c=7\n");
+    const int line = __LINE__ + 1;
+    KQ_LOG_ERROR("c", "text\n");
+    KQ_LOG_WARNING("c", "%s of %d\n", "text", 2);
+    KQ_LOG_NOTE("c", "no end, ");
+    KQ_LOG_INFO("c", "100%%\n");
+    KQ_LOG_DEBUG("c", "%s\n", std::string(100000, 'x').c_str());
+    std::string expected;
+    const std::pair<const char*, std::string> lines[] = {{"ERROR", "text\n"},
+                                                         {"WARNING", "text of 2\n"},
+                                                         {"NOTE", "no end, "},
+                                                         {"INFO", "100%\n"},
+                                                         {"DEBUG", std::string(100000, 'x') + "\n"}};
+    for (int at = 0; at < 5; ++at) {
+        char prefix[100];
+        std::snprintf(
+            prefix, sizeof(prefix), "@(%5d:%5d) [%s] logger-test.cpp(%d): ", getpid(),
+            static_cast<int>(reinterpret_cast<std::uintptr_t>(reinterpret_cast<void*>(pthread_self())) % 100000),
+            lines[at].first, line + at);
+        expected += prefix + lines[at].second;
+    }
+    EXPECT_EQ(TakeLog(), expected);
+}
+
+TEST_F(LoggerTest, TheTimeStampIsLocalTimeAndFollowsClockAndTimeZone) {
+    constexpr std::time_t kSecond = 1'700'000'000;
+    const std::string longZone(70, 'A');  // too long to be remembered
+    const struct {
+        std::string zone;
+        std::time_t second;
+        const char* stamp;
+    } moments[] = {
+        {"UTC0", kSecond, "2023-11-14T22:13:20 "},
+        {"UTC0", kSecond, "2023-11-14T22:13:20 "},
+        {"UTC0", kSecond + 1, "2023-11-14T22:13:21 "},
+        {"AAA-5:30", kSecond + 1, "2023-11-15T03:43:21 "},
+        {"BBB8", kSecond + 1, "2023-11-14T14:13:21 "},
+        {"BBB8", kSecond, "2023-11-14T14:13:20 "},
+        {"", kSecond, "2023-11-14T22:13:20 "},
+        {longZone + "-1", kSecond, "2023-11-14T23:13:20 "},
+        {longZone + "-2", kSecond, "2023-11-15T00:13:20 "},
+        {":/missing/zone", kSecond, "2023-11-14T22:13:20 "},
+    };
+    Open();
+    for (const auto& [zone, second, stamp] : moments) {
+        setenv("TZ", zone.c_str(), 1);
+        stoppedAt = second;
+        fs::resize_file(At("log"), 0);
+        // The callers of a statement rely on the errno that they had before it, and it may be in the message.
+        errno = EXDEV;
+        Logger::LogMsg(Logger::LEVEL_ERROR, "c", "%m\n");
+        EXPECT_EQ(errno, EXDEV) << zone;
+        EXPECT_EQ(Read(At("log")), stamp + std::string(std::strerror(EXDEV)) + "\n") << zone;
+    }
+    stoppedAt = -1;
+    unsetenv("TZ");
 }
 
 __attribute__((format(printf, 3, 4))) void ThroughC(int level, const char* component, const char* format, ...) {
@@ -92,398 +193,194 @@ __attribute__((format(printf, 3, 4))) void ThroughC(int level, const char* compo
     va_end(arguments);
 }
 
-// Start-up
-
-TEST_F(LoggerTest, StartsOpenWithWarningsToStandardError) {
-    EXPECT_TRUE(State::log_initialized());
-    EXPECT_EQ(State::log_fp(), stderr);
-    EXPECT_EQ(State::config().type, Logger::TYPE_STDOUT);
-    EXPECT_EQ(State::config().rotate_count, 50);
-    EXPECT_EQ(State::config().safety_scope, Logger::SCOPE_THREAD);
-    EXPECT_TRUE(State::log_level().empty());
-    EXPECT_EQ(State::log_size(), nullptr);
-    EXPECT_EQ(State::log_lock(), nullptr);
-    EXPECT_EQ(State::shared_count(), nullptr);
-
-    std::string output;
-    const std::string error = StandardErrorOf([&] {
-        output = StandardOutputOf([] {
-            KQ_LOG_INFO("launcher_debug", "info\n");
-            KQ_LOG_WARNING("launcher_debug", "warning\n");
-            KQ_LOG_ERROR("launcher_debug", "error\n");
-        });
-    });
-    EXPECT_EQ(output, "");
-    EXPECT_TRUE(IsStamped(error, {"[^\n]*warning\n", "[^\n]*error\n"}));
-}
-
-// Destinations
-
-TEST_F(LoggerTest, StandardStreams) {
-    const auto log = [] { Logger::LogMsg(Logger::LEVEL_ERROR, "c", "one %s\n", "message"); };
-    for (const Logger::Type type : {Logger::TYPE_STDOUT, Logger::TYPE_STDERR}) {
-        EXPECT_EQ(Logger::Initialize(type, LogPath(), "", 50, Logger::SCOPE_PROCESS), 0);
-        std::string output;
-        const std::string error = StandardErrorOf([&] { output = StandardOutputOf(log); });
-        const bool to_output = type == Logger::TYPE_STDOUT;
-        EXPECT_TRUE(IsStamped(to_output ? output : error, {"one message\n"}));
-        EXPECT_EQ(to_output ? error : output, "");
-
-        EXPECT_EQ(State::config().safety_scope, Logger::SCOPE_NONE);
-        EXPECT_EQ(State::log_lock(), nullptr);
-        EXPECT_EQ(State::log_path(), "");
-        EXPECT_EQ(*State::log_size(), -1);
-        EXPECT_FALSE(fs::exists(LogPath()));
-    }
-}
-
-TEST_F(LoggerTest, SystemLogGetsEveryLevelAsAnErrorWithoutTimeStamp) {
-    Write(At("levels"), "c=7\n");
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_SYSLOG, LogPath(), At("levels"), 50, Logger::SCOPE_THREAD), 0);
-    EXPECT_EQ(State::log_fp(), nullptr);
-    EXPECT_EQ(State::config().safety_scope, Logger::SCOPE_NONE);
-    EXPECT_EQ(*State::log_size(), -1);
-
-    SystemLog().clear();
-    errno = E2BIG;
-    Logger::LogMsg(Logger::LEVEL_DEBUG, "c", "debug %d\n", 1);
-    EXPECT_EQ(errno, E2BIG);
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "error %d\n", 2);
-    Logger::LogMsg(Logger::LEVEL_INFO, "other", "info\n");
-    EXPECT_EQ(SystemLog(), (std::vector<std::pair<int, std::string>>{{3, "debug 1\n"}, {3, "error 2\n"}}));
-}
-
-TEST_F(LoggerTest, ATypeAboveFileOpensItsFileAndWritesToStandardError) {
-    ASSERT_EQ(Logger::Initialize(kTypeAboveFile, LogPath(), "", 50, Logger::SCOPE_THREAD), 0);
-    EXPECT_EQ(State::config().safety_scope, Logger::SCOPE_NONE);
-    EXPECT_EQ(State::log_path(), LogPath());
-    *State::log_size() = kThreshold;
-    EXPECT_EQ(StandardErrorOf([] { Logger::LogMsg(Logger::LEVEL_ERROR, "c", "bare %d\n", 9); }), "bare 9\n");
-    EXPECT_EQ(Read(LogPath()), "");
-    EXPECT_EQ(*State::log_size(), kThreshold);
-    EXPECT_FALSE(fs::exists(At("launcher.log_0")));
-
-    EXPECT_EQ(Logger::Initialize(kTypeAboveFile, "", "", 50, Logger::SCOPE_THREAD), -1);
-}
-
-TEST_F(LoggerTest, FileIsContinuedAndCounted) {
-    Write(LogPath(), "of an earlier run\n");
-    OpenLog();
-    EXPECT_EQ(*State::log_size(), 18);
-    EXPECT_EQ(State::log_path(), LogPath());
-    Logger::LogMsg(Logger::LEVEL_WARNING, "c", "%s\n", "of this run");
-    EXPECT_TRUE(Matches(Read(LogPath()), "of an earlier run\n" + std::string(kStamp) + "of this run\n"));
-    EXPECT_EQ(*State::log_size(), 18 + kStampSize + 12);
-}
-
-TEST_F(LoggerTest, AMutexForEveryScopeButNone) {
-    OpenLog(50, Logger::SCOPE_NONE);
-    EXPECT_EQ(State::log_lock(), nullptr);
-    OpenLog(50, Logger::SCOPE_THREAD);
-    EXPECT_NE(State::log_lock(), nullptr);
-    OpenLog(50, Logger::SCOPE_PROCESS);
-    EXPECT_NE(State::log_lock(), nullptr);
-}
-
-// Lines
-
-TEST_F(LoggerTest, ALineFieldByField) {
-    Write(At("levels"), "file_op_debug=7\n");
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, LogPath(), At("levels"), 50, Logger::SCOPE_THREAD), 0);
-    const int line = __LINE__ + 1;
-    KQ_LOG_ERROR("file_op_debug", "text\n");
-    KQ_LOG_WARNING("file_op_debug", "%s of %d\n", "text", 2);
-    KQ_LOG_NOTE("file_op_debug", "text\n");
-    KQ_LOG_INFO("file_op_debug", "100%%\n");
-    KQ_LOG_DEBUG("file_op_debug", "text\n");
-
-    char origin[64];
-    std::snprintf(origin, sizeof(origin), "\\(%5d:%5d\\) ", getpid(),
-                  static_cast<int>(reinterpret_cast<std::uintptr_t>(reinterpret_cast<void*>(pthread_self())) % 100000));
-    const auto field = [&](const char* tag, int at, const char* text) {
-        return origin + std::string("\\[") + tag + "\\] logger-test\\.cpp\\(" + std::to_string(at) + "\\): " + text;
-    };
-    EXPECT_TRUE(IsStamped(Read(LogPath()), {field("ERROR", line, "text\n"), field("WARNING", line + 1, "text of 2\n"),
-                                            field("NOTE", line + 2, "text\n"), field("INFO", line + 3, "100%\n"),
-                                            field("DEBUG", line + 4, "text\n")}));
-}
-
-TEST_F(LoggerTest, TextIsNeitherEndedNorCut) {
-    OpenLog();
-    const std::string long_text(100'000, 'x');
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "no newline");
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "%s\n", long_text.c_str());
-    const std::string text = Read(LogPath());
-    EXPECT_TRUE(IsStamped(text.substr(0, 2 * kStampSize + 10), {"no newline", ""}));
-    EXPECT_EQ(text.substr(2 * kStampSize + 10), long_text + "\n");
-}
-
-TEST_F(LoggerTest, TheTimeStampIsLocalTimeAndFollowsClockAndTimeZone) {
-    constexpr std::time_t kSecond = 1'700'000'000;
-    const struct {
-        const char* zone;
-        std::time_t second;
-        const char* stamp;
-    } moments[] = {
-        {"UTC0", kSecond, "2023-11-14T22:13:20 "},
-        {"UTC0", kSecond, "2023-11-14T22:13:20 "},
-        {"UTC0", kSecond + 1, "2023-11-14T22:13:21 "},
-        {"AAA-5:30", kSecond + 1, "2023-11-15T03:43:21 "},
-        {"BBB8", kSecond + 1, "2023-11-14T14:13:21 "},
-        {"BBB8", kSecond, "2023-11-14T14:13:20 "},  // the clock was put back
-        {"", kSecond, "2023-11-14T22:13:20 "},
-        // A zone too long to be remembered, twice.
-        {"AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA-1", kSecond, "2023-11-14T23:13:20 "},
-        {"AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA-2", kSecond, "2023-11-15T00:13:20 "},
-    };
-    const TimeZone keeper("UTC0");
-    OpenLog();
-    const StoppedClock clock(kSecond);
-    for (const auto& [zone, second, stamp] : moments) {
-        SCOPED_TRACE(zone);
-        TimeZone::Set(zone);
-        StoppedClock::Set(second);
-        fs::resize_file(LogPath(), 0);
-        Logger::LogMsg(Logger::LEVEL_ERROR, "c", "\n");
-        EXPECT_EQ(Read(LogPath()), stamp + std::string("\n"));
-    }
-}
-
-TEST_F(LoggerTest, AnArgumentListAndPlainTextPointers) {
-    OpenLog();
-    ThroughList(Logger::LEVEL_ERROR, "c", "%s %d\n", "list", 2);
-    ThroughC(4, "c", "%s %d\n", "text", 3);
-    ThroughList(Logger::LEVEL_INFO, "c", "%d\n", 4);
-    ThroughC(5, "c", "%d\n", 5);
-    EXPECT_TRUE(IsStamped(Read(LogPath()), {"list 2\n", "text 3\n"}));
-}
-
-TEST_F(LoggerTest, ACollectedStream) {
-    OpenLog();
-    errno = ENOENT;
-    char platform_text[128];  // what "%m" gives on this platform
-    std::snprintf(platform_text, sizeof(platform_text), "%m");
-    const std::string with_errno = "hex ff, err=2:";
+TEST_F(LoggerTest, OtherWaysToLog) {
+    Open();
+    ThroughC(4, "d", "%s %d\n", "text", 3);
+    ThroughC(5, "d", "%d\n", 5);
+    EXPECT_EQ(TakeLog(), "@text 3\n");
+    const std::string text = std::strerror(ENOENT);
     const struct {
         int flags;
         int error;
-        std::string stream;
         std::string line;
-    } cases[] = {
-        {0, ENOENT, "hex ff", "hex ff"},
-        {Logger::FLAG_NEWLINE, ENOENT, "hex ff", "hex ff\n"},
-        {Logger::FLAG_ERRNO, ENOENT, with_errno, with_errno + platform_text},
-        {Logger::FLAG_ERRNO | Logger::FLAG_NEWLINE | 1, ENOENT, with_errno, with_errno + platform_text + "\n"},
-        {Logger::FLAG_ERRNO | Logger::FLAG_NEWLINE, 0, "hex ff", "hex ff\n"},
-    };
+    } cases[] = {{0, ENOENT, "hex ff"},
+                 {Logger::FLAG_NEWLINE, ENOENT, "hex ff\n"},
+                 {Logger::FLAG_ERRNO, ENOENT, "hex ff, err=2:" + text},
+                 {Logger::FLAG_ERRNO | Logger::FLAG_NEWLINE | 1, ENOENT, "hex ff, err=2:" + text + "\n"},
+                 {Logger::FLAG_ERRNO | Logger::FLAG_NEWLINE, 0, "hex ff\n"}};
     for (const auto& one : cases) {
-        SCOPED_TRACE(one.flags);
-        fs::resize_file(LogPath(), 0);
         std::stringstream stream;
         stream << "hex " << std::hex << 255;
         errno = one.error;
         Logger::LogMsg3(Logger::LEVEL_ERROR, "c", stream, static_cast<Logger::ConfigFlag>(one.flags));
-        EXPECT_EQ(stream.str(), one.stream);
-        EXPECT_EQ(Read(LogPath()).substr(kStampSize), one.line);
+        EXPECT_EQ(TakeLog(), "@" + one.line);
     }
 }
-
-TEST_F(LoggerTest, AMessageThatCanNotBeFormattedCountsOneLess) {
-    OpenLog();
-    const wchar_t no_character[] = {static_cast<wchar_t>(0xD800), L'\0'};  // half a pair
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "%ls", no_character);
-    EXPECT_EQ(*State::log_size(), kStampSize - 1);
-}
-
-// The callers of a statement rely on the errno that they had before it.
-TEST_F(LoggerTest, AMessageLeavesErrnoAsItWas) {
-    const auto log = [] {
-        errno = EXDEV;
-        KQ_LOG_ERROR("c", "text\n");
-        return errno;
-    };
-    const char* const zones[] = {nullptr, "", "UTC0", ":/missing/zone", "No/Such/Zone", ":"};
-    for (const char* zone : zones) {
-        SCOPED_TRACE(zone != nullptr ? zone : "unset");
-        const TimeZone keeper(zone);
-        for (const Logger::Type type : {Logger::TYPE_FILE, Logger::TYPE_STDOUT, Logger::TYPE_STDERR}) {
-            ASSERT_EQ(Logger::Initialize(type, LogPath(), "", 3, Logger::SCOPE_PROCESS), 0);
-            StandardErrorOf([&] { StandardOutputOf([&] { EXPECT_EQ(log(), EXDEV); }); });
-        }
-        State::StartUp();
-        StandardErrorOf([&] { EXPECT_EQ(log(), EXDEV); });
-    }
-    // A device may be asked on the first write whether it is a terminal.
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, "/dev/null", "", 3, Logger::SCOPE_THREAD), 0);
-    EXPECT_EQ(log(), EXDEV);
-
-    OpenLog(3, Logger::SCOPE_PROCESS);
-    *State::log_size() = kThreshold;
-    EXPECT_EQ(log(), EXDEV);
-    ASSERT_TRUE(fs::exists(At("launcher.log_0")));
-    *State::shared_count() += 1;
-    EXPECT_EQ(log(), EXDEV);
-    EXPECT_EQ(State::private_count(), *State::shared_count());
-}
-
-TEST_F(LoggerTest, ErrnoInAMessageIsTheCallers) {
-    const TimeZone keeper(":/another/missing/zone");
-    OpenLog();
-    errno = EXDEV;
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "%m\n");
-    errno = EXDEV;
-    char expected[128];
-    std::snprintf(expected, sizeof(expected), "%m\n");
-    EXPECT_EQ(Read(LogPath()).substr(kStampSize), expected);
-}
-
-// Levels
 
 TEST_F(LoggerTest, LevelFiles) {
     const struct {
-        const char* text;  // null: no file
-        int launcher;
-        int service;
-        int extractor;
-    } files[] = {
-        {nullptr, 4, 4, 4},
-        {"", 4, 4, 4},
-        {"launcher_debug=7\n", 7, 4, 4},
-        {"launcher_debug = 7\nservice_debug=3 # errors\n", 7, 3, 4},
-        {"launcher_debug=7 # on\n", 7, 4, 4},
-        {"launcher_debug=5\nlauncher_debug=6\n", 6, 4, 4},
-        {"default_component=7\n", 4, 4, 4},
-        {"Launcher_debug=7\nsomething=7\n", 4, 4, 4},
-        {"extractor_debug=0\nservice_debug=2\nlauncher_debug=all\n", 0, 2, 0},
-        {"extractor_debug=-1\nlauncher_debug='6'\n", 6, 4, -1},
-        {"launcher_debug=\n", 4, 4, 4},
-        {"launcher_debug=7\nservice_debug=7\nextractor_debug 7\n", 4, 4, 4},
-    };
+        const char* text;
+        int first;
+        int second;
+    } files[] = {{"other=7\ndefault_component=7\nFirst=7\n", 4, 4},
+                 {"first=7\n", 7, 4},
+                 {"first = 5\nsecond=-1\nfirst=6 # more\n", 6, -1},
+                 {"second=2\nfirst=all\n", 0, 2},
+                 // A malformed file is as good as none, and a component that is not named keeps its level.
+                 {"first=7\nsecond 7\n", 0, 2}};
     for (const auto& file : files) {
-        SCOPED_TRACE(file.text != nullptr ? file.text : "no file");
-        State::StartUp();
-        if (file.text != nullptr) {
-            Write(At("levels"), file.text);
-        }
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, LogPath(), At("levels"), 50, Logger::SCOPE_THREAD), 0);
+        SCOPED_TRACE(file.text);
+        Open(50, Logger::TYPE_FILE, file.text);
+        int evaluated = 0;
         for (int number = Logger::LEVEL_ERROR; number <= Logger::LEVEL_DEBUG; ++number) {
             const auto level = static_cast<Logger::Level>(number);
-            EXPECT_EQ(Logger::IsNeedToLog(level, "launcher_debug"), number <= file.launcher);
-            EXPECT_EQ(Logger::IsNeedToLog(level, "service_debug"), number <= file.service);
-            // LogMsg asks once more by itself.
-            fs::resize_file(LogPath(), 0);
-            Logger::LogMsg(level, "extractor_debug", "text\n");
-            EXPECT_EQ(fs::file_size(LogPath()) != 0, number <= file.extractor);
+            EXPECT_EQ(Logger::IsNeedToLog(level, "first"), number <= file.first);
+            Logger::LogMsg(level, "second", "text\n");  // asks once more by itself
+            EXPECT_EQ(TakeLog(), number <= file.second ? "@text\n" : "");
         }
+        KQ_LOG_WARNING("second", "%d\n", ++evaluated);
+        EXPECT_EQ(evaluated, file.second >= 4 ? 1 : 0);
+        TakeLog();
     }
 }
 
-TEST_F(LoggerTest, ADisabledStatementDoesNotEvaluateItsArguments) {
-    OpenLog();
-    int evaluated = 0;
-    KQ_LOG_DEBUG("service_debug", "%d\n", ++evaluated);
-    EXPECT_EQ(evaluated, 0);
-    KQ_LOG_WARNING("service_debug", "%d\n", ++evaluated);
-    EXPECT_EQ(evaluated, 1);
-}
-
-// Again and in vain
-
-TEST_F(LoggerTest, ASecondInitializeKeepsLevelsAndClosesTheFirstFile) {
-    Write(At("levels"), "launcher_debug=7\nservice_debug=7\n");
-    Write(At("other-levels"), "service_debug=3\n");
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, LogPath(), At("levels"), 50, Logger::SCOPE_THREAD), 0);
-    const int descriptor = fileno(State::log_fp());
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, At("second.log"), At("other-levels"), 9, Logger::SCOPE_THREAD), 0);
-    EXPECT_EQ(fileno(State::log_fp()), descriptor);  // it was free again
-    Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "debug\n");
-    Logger::LogMsg(Logger::LEVEL_WARNING, "service_debug", "warning\n");
-    EXPECT_EQ(Read(LogPath()), "");
-    EXPECT_TRUE(IsStamped(Read(At("second.log")), {"debug\n"}));
-    EXPECT_EQ(State::config().rotate_count, 9);
-}
-
-TEST_F(LoggerTest, AFailedInitializeShutsLoggingUntilTheNext) {
+TEST_F(LoggerTest, AFailedStartShutsLoggingUntilTheNext) {
     fs::create_directory(At("folder"));
-    for (const std::string& path : {std::string(), At("missing/launcher.log"), At("folder")}) {
-        SCOPED_TRACE(path);
-        for (const bool was_open : {false, true}) {
-            State::StartUp();
-            if (was_open) {
-                OpenLog();
+    for (const std::string& path : {std::string(), At("missing/log"), At("folder")}) {
+        for (const Logger::Type type : {Logger::TYPE_FILE, kTypeAboveFile}) {
+            Open();
+            EXPECT_EQ(Logger::Initialize(type, path, "", 50, Logger::SCOPE_THREAD), -1) << path;
+            EXPECT_FALSE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, "c"));
+            ::testing::internal::CaptureStdout();
+            EXPECT_EQ(StandardErrorOf([] { Log("lost"); }) + ::testing::internal::GetCapturedStdout(), "");
+            EXPECT_EQ(TakeLog(), "");
+        }
+    }
+    // A second start closes the file of the first, and its levels stay.
+    Open(50, Logger::TYPE_FILE, "c=7\n");
+    EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, At("other"), "", 50, Logger::SCOPE_PROCESS), 0);
+    Logger::LogMsg(Logger::LEVEL_DEBUG, "c", "debug\n");
+    EXPECT_EQ(TakeLog(), "");
+    EXPECT_EQ(TakeLog(Read(At("other"))), "@debug\n");
+    EXPECT_EQ(RunProcess({"/bin/bash", "-c", "readlink /proc/$PPID/fd/* | grep -c '" + folder() + "'"}).output, "1\n");
+}
+
+TEST_F(LoggerTest, AFileIsContinuedAndRotatedPastFiveMebibytes) {
+    // Up to the limit with the next line, and one byte more.
+    for (const std::uintmax_t size : {kBiggest, kBiggest + 1}) {
+        fs::remove(At("log"));
+        Write(At("log"), "");
+        fs::resize_file(At("log"), size - kStamp - 6);
+        Open();
+        Log("first");
+        EXPECT_EQ(fs::exists(At("log_0")), size > kBiggest);
+        EXPECT_EQ(fs::file_size(At(size > kBiggest ? "log_0" : "log")), size);
+    }
+    // The new file counts from its own beginning.
+    Log(std::string(kBiggest - kStamp - 1, 'x'));
+    EXPECT_FALSE(fs::exists(At("log_1")));
+    errno = EXDEV;
+    Log("");
+    EXPECT_EQ(errno, EXDEV);
+    EXPECT_EQ(fs::file_size(At("log_0")), kBiggest + kStamp + 1);
+    Log("new");
+    EXPECT_EQ(TakeLog(), "@new\n");
+    EXPECT_EQ(Files().size(), 3U);
+    const Outcome child = RunProcess({"/bin/bash", "-c", "readlink /proc/$$/fd/*"});
+    EXPECT_EQ(child.output.find(folder()), std::string::npos) << "children inherit it: " << child.output;
+
+    // A file of an earlier run near the end of 31 bits.
+    fs::resize_file(At("log"), INT32_MAX);
+    Open();
+    Log("last");
+    EXPECT_EQ(fs::file_size(At("log_0")), std::uintmax_t{INT32_MAX} + kStamp + 5);
+    fs::remove_all(At("log_0"));
+}
+
+TEST_F(LoggerTest, GenerationsForEachCount) {
+    const std::pair<int, int> cases[] = {{-1, 1}, {0, 1}, {1, 1}, {2, 1}, {3, 2}, {5, 4}};
+    for (const auto& [count, generations] : cases) {
+        for (const auto& [name, line] : Files()) {
+            fs::remove(At("log" + name));
+        }
+        std::map<std::string, std::string> expected = {{"", ""}, {"_70", "@far\n"}};
+        Write(At("log_70"), "2023-11-14T22:13:20 far\n");  // of a run with a greater count
+        for (int rotation = 0; rotation < 8; ++rotation) {
+            Rotate(count, std::to_string(rotation));
+        }
+        for (int number = 0; number < generations; ++number) {
+            expected["_" + std::to_string(number)] = std::to_string(7 - number) + "\n";
+        }
+        EXPECT_EQ(Files(), expected) << count;
+    }
+    // A gap in the row stays none of the others' business.
+    fs::remove(At("log_1"));
+    Rotate(5, "8");
+    EXPECT_EQ(Files()["_1"] + Files()["_2"] + Files()["_3"], "7\n5\n");
+}
+
+TEST_F(LoggerTest, AFailedRotationTurnsLoggingOffUntilTheNextStart) {
+    for (const char* about : {"the file is gone", "a folder in the way", "no file can be opened"}) {
+        SCOPED_TRACE(about);
+        rlimit before = {};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none = {3, before.rlim_max};
+        Write(At("log"), "");
+        fs::resize_file(At("log"), kBiggest);
+        Open(1);
+        if (about[0] == 't') {
+            fs::remove(At("log"));
+        } else if (about[0] == 'a') {
+            Write(At("log_0/in the way"), "");
+        } else {
+            fs::remove_all(At("log_0"));
+            setrlimit(RLIMIT_NOFILE, &none);
+        }
+        Log("last");
+        setrlimit(RLIMIT_NOFILE, &before);
+        const auto files = Files();
+        Log("lost");
+        EXPECT_EQ(Files(), files);
+        EXPECT_TRUE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, "c"));
+        fs::remove(At("log"));
+        Open();
+        Log("back");
+        EXPECT_EQ(TakeLog(), "@back\n");
+    }
+}
+
+TEST_F(LoggerTest, EightThreadsLoseNoLineWhileFilesRotate) {
+    constexpr int kThreads = 8;
+    constexpr int kMessages = 400;
+    Open();
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < kThreads; ++thread) {
+        threads.emplace_back([thread] {
+            // A filler of the thread's own, so that a line mixed from two is seen.
+            const std::string filler(static_cast<std::size_t>(10000 + thread), static_cast<char>('a' + thread));
+            for (int message = 0; message < kMessages; ++message) {
+                Log(std::to_string(thread) + " " + std::to_string(message) + " " + filler);
             }
-            EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, path, "", 50, Logger::SCOPE_THREAD), -1);
-            EXPECT_FALSE(State::log_initialized());
-            EXPECT_FALSE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, "launcher_debug"));
-            EXPECT_NE(State::log_lock(), nullptr);
-            EXPECT_NE(State::log_size(), nullptr);
-            std::string output;
-            EXPECT_EQ(StandardErrorOf([&] {
-                          output = StandardOutputOf([] { Logger::LogMsg(Logger::LEVEL_ERROR, "c", "lost\n"); });
-                      }),
-                      "");
-            EXPECT_EQ(output, "");
-        }
-        // The standard streams outlive it.
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDERR, "", "", 50, Logger::SCOPE_THREAD), 0);
-        EXPECT_TRUE(IsStamped(StandardErrorOf([] { Logger::LogMsg(Logger::LEVEL_ERROR, "c", "back\n"); }), {"back\n"}));
+        });
     }
-}
-
-TEST_F(LoggerTest, DestroyLeavesNothingOpen) {
-    OpenLog(9);
-    State::Destroy();
-    EXPECT_FALSE(State::log_initialized());
-    EXPECT_EQ(State::log_fp(), stdout);
-    EXPECT_EQ(State::config().type, Logger::TYPE_STDERR);
-    EXPECT_EQ(State::config().rotate_count, 32);
-    EXPECT_EQ(State::log_path(), "");
-    EXPECT_EQ(State::log_size(), nullptr);
-    EXPECT_EQ(State::shared_count(), nullptr);
-    EXPECT_EQ(State::log_lock(), nullptr);
-}
-
-TEST_F(LoggerTest, FileSizes) {
-    OpenLog();
-    Write(At("big"), "");
-    fs::resize_file(At("big"), (std::uintmax_t{5} << 30) + 7);
-    EXPECT_EQ(State::GetFileSize(At("big")), (1 << 30) + 7);
-    EXPECT_EQ(Read(LogPath()), "");
-
-    EXPECT_EQ(State::GetFileSize("/missing/file"), 0);
-    EXPECT_TRUE(
-        IsStamped(Read(LogPath()), {"stat\\(/missing/file\\): " + std::string(std::strerror(ENOENT)) + " \\(2\\)\n"}));
-}
-
-TEST_F(LoggerTest, ChildrenDoNotInheritTheLogFile) {
-    if (!fs::exists("/proc/self/fd")) {
-        GTEST_SKIP() << "no list of open files on this platform";
+    for (std::thread& thread : threads) {
+        thread.join();
     }
-    // What a program that is started now has open.
-    const auto open_in_child = [] {
-        std::FILE* const child = popen("ls -l /proc/self/fd", "r");
-        std::string list;
-        char line[1024];
-        while (std::fgets(line, sizeof(line), child) != nullptr) {
-            list += line;
+    ASSERT_EQ(Files().size(), 7U) << "32 megabytes";
+    // From the oldest to the newest, each thread's lines must come whole and in order.
+    std::map<char, int> next;
+    for (const char* name : {"log_5", "log_4", "log_3", "log_2", "log_1", "log_0", "log"}) {
+        std::istringstream lines(Read(At(name)));
+        for (std::string line; std::getline(lines, line);) {
+            const char thread = line.size() > kStamp ? line[kStamp] : '0';
+            const auto filler = static_cast<std::size_t>(10000 + thread - '0');
+            ASSERT_EQ(line.substr(kStamp), std::string(1, thread) + " " + std::to_string(next[thread]++) + " " +
+                                               std::string(filler, static_cast<char>('a' + thread - '0')));
         }
-        EXPECT_EQ(pclose(child), 0);
-        return list;
-    };
-    OpenLog(3, Logger::SCOPE_PROCESS);
-    std::FILE* const inherited = std::fopen(At("inherited").c_str(), "a");
-    std::string open = open_in_child();
-    EXPECT_NE(open.find(At("inherited")), std::string::npos) << open;
-    EXPECT_EQ(open.find(LogPath()), std::string::npos) << open;
-
-    EXPECT_EQ(State::Rotate(), 0);
-    EXPECT_EQ(open_in_child().find(LogPath()), std::string::npos);
-
-    *State::shared_count() += 1;
-    Logger::LogMsg(Logger::LEVEL_ERROR, "c", "reopens\n");
-    ASSERT_EQ(State::private_count(), *State::shared_count());
-    EXPECT_EQ(open_in_child().find(LogPath()), std::string::npos);
-    std::fclose(inherited);
+    }
+    for (char thread = '0'; thread < '0' + kThreads; ++thread) {
+        EXPECT_EQ(next[thread], kMessages);
+    }
 }
 
 }  // namespace

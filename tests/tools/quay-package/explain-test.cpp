@@ -72,7 +72,7 @@ TEST_F(ExplainTest, SaysWhatTheLauncherThenDoes) {
     MakeBundle(MakePackage(MakeClient("client-9", 9), 9));
     Write(Private("KelvaneQuay.app_tmp/leftover"), "");
     Write(home_ + "/.Tessaly/app/x", "");
-    FakeClient client(FakeClient::Manners::Prompt);
+    FakeClient client(manners::kPrompt);
     Write(Private("ui.pid"), "pid=" + std::to_string(client.id()) + "\n");
     const QJsonObject third = Explain({"KQ806", "KQ809"});
     EXPECT_EQ(Text(third, "decision"), "upgrade");
@@ -81,7 +81,7 @@ TEST_F(ExplainTest, SaysWhatTheLauncherThenDoes) {
     EXPECT_EQ(Text(third, "remove"), home_ + "/.Tessaly/app");
     LogEverything();
     ExpectLaunched(Launch(), 9);
-    EXPECT_EQ(client.AwaitEnd(), SIGTERM);
+    EXPECT_EQ(client.AwaitEnd(), 128 + SIGTERM);
     EXPECT_FALSE(fs::exists(home_ + "/.Tessaly/app"));
     // It came as said: the first name would not do, the second did.
     const std::string log = Read(Private("log/launcher.log"));

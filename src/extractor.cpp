@@ -1,13 +1,12 @@
 #include "extractor.h"
 
-#include <archive.h>
 #include <archive_entry.h>
 
 #include <iostream>
-#include <memory>
 
 #include "log/log-statement.h"
 #include "notify-adapter.h"
+#include "posix/archive.h"
 #include "resources/str-table.h"
 
 namespace {
@@ -18,15 +17,6 @@ constexpr std::size_t kBlockSize = 10240;
 // Nothing else: neither owners nor times nor exact modes, and links are followed where the package put them.
 constexpr int kDiskOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 static_assert(kDiskOptions == 0x2210, "the three flags, as libarchive numbers them");
-
-struct ReaderDeleter {
-    void operator()(archive* handle) const { archive_read_free(handle); }
-};
-struct WriterDeleter {
-    void operator()(archive* handle) const { archive_write_free(handle); }
-};
-using Reader = std::unique_ptr<archive, ReaderDeleter>;
-using Writer = std::unique_ptr<archive, WriterDeleter>;
 
 // libarchive's last message for a handle. It is null where the failing call said nothing.
 const char* ErrorText(archive* handle) {
@@ -40,8 +30,8 @@ void SupportAll(archive* reader) {
 }
 
 // Opens `path` with every filter and format, for Count and List. Null, with the reason in the log, where that fails.
-Reader OpenForReading(const std::string& path) {
-    Reader reader(archive_read_new());
+ArchiveReader OpenForReading(const std::string& path) {
+    ArchiveReader reader(archive_read_new());
     if (!reader) {
         KQ_LOG_ERROR(kComponent, "Allocate archive failed\n");
         return nullptr;
@@ -114,8 +104,8 @@ int Extractor::Extract() {
         return -1;
     }
 
-    Writer writer;  // declared first, so that the reader is freed before it
-    const Reader reader(archive_read_new());
+    ArchiveWriter writer;  // declared first, so that the reader is freed before it
+    const ArchiveReader reader(archive_read_new());
     if (!reader) {
         KQ_LOG_ERROR(kComponent, "Allocate extractor failed\n");
         return -1;
@@ -140,7 +130,7 @@ int Extractor::Count() {
         KQ_LOG_ERROR(kComponent, "Invalid argument\n");
         return -1;
     }
-    const Reader reader = OpenForReading(sourcePath);
+    const ArchiveReader reader = OpenForReading(sourcePath);
     if (!reader) {
         return -1;
     }
@@ -156,10 +146,11 @@ int Extractor::Count() {
 
 int Extractor::List() {
     if (destPath.empty() || sourcePath.empty()) {
-        // Deliberately no return: a listing needs no destination, and a missing source fails at its open.
+        // Deliberately no return: a listing needs no destination. libarchive takes an empty source for standard input,
+        // which is then listed.
         KQ_LOG_ERROR(kComponent, "Invalid argument\n");
     }
-    const Reader reader = OpenForReading(sourcePath);
+    const ArchiveReader reader = OpenForReading(sourcePath);
     if (!reader) {
         return -1;
     }

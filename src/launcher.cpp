@@ -5,8 +5,8 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPalette>
-#include <QTimer>
 #include <climits>
+#include <cstdint>
 
 #include "log/log-statement.h"
 #include "mac/mac-service.h"
@@ -146,17 +146,22 @@ Launcher::~Launcher() {
 
 void Launcher::Run() {
     worker->StartThread();
+    if (!worker->IsThreadRunning()) {
+        // The system gave no thread. The client is to start all the same: the work is done here, from within the event
+        // loop, and the dialog stands still meanwhile.
+        disconnect(this, &Launcher::sigStart, worker, nullptr);
+        connect(
+            this, &Launcher::sigStart, this, [this] { worker->HandleServicce(); }, Qt::QueuedConnection);
+    }
 }
 
 void Launcher::Start() {
     Q_EMIT sigStart();
-    if (!worker->IsThreadRunning()) {
-        QTimer::singleShot(0, this, [this] { worker->HandleServicce(); });
-    }
 }
 
 void Launcher::UpdateProgress(int total, int steps) {
-    progressDialog->setValue(steps * 100 / total);
+    // In 32 bits, as is required: a product that is too large for them wraps.
+    progressDialog->setValue(static_cast<std::int32_t>(static_cast<std::uint32_t>(steps) * 100U) / total);
 }
 
 void Launcher::SetLabelText(const QString& text) {

@@ -74,11 +74,11 @@ public:
     Launcher();
     ~Launcher() override;
 
-    // Starts the handler thread.
+    // Starts the handler thread. Where the system gives none, the work that Start asks for is done on the main thread,
+    // from within its event loop.
     void Run();
 
-    // Emits sigStart. Where the handler thread could not be started, the work is done on the main thread, from within
-    // its event loop: the dialog stands still meanwhile, but the client starts. May be called before the event loop
+    // Emits sigStart, which waits for the handler thread until Run has started it. May be called before the event loop
     // runs: what the worker answers waits in the queue.
     void Start();
 
@@ -89,7 +89,8 @@ public Q_SLOTS:
     // The end of the run: joins the handler thread and ends the event loop.
     void LaunchDone();
 
-    // Sets the dialog to steps of total, in whole percent, truncated. `total` is not 0.
+    // Sets the dialog to steps of total, in whole percent, truncated; 100 times `steps` wraps in 32 bits. `total` is
+    // not 0.
     void UpdateProgress(int total, int steps);
 
     void SetLabelText(const QString& text);

@@ -153,6 +153,8 @@ TEST_F(ProcessTest, ASecondStartLeavesAtOnceAndAKilledFirstOneDoesNotBlock) {
 }
 
 TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
+    environment_["TMPDIR"] = At("tmp");
+    fs::create_directory(At("tmp"));
     LayBundle(1000);
     ExpectLaunched(Launch(), 1000);
     ASSERT_EQ(std::distance(fs::directory_iterator(At("run")), fs::directory_iterator()), 1);
@@ -181,13 +183,14 @@ TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
         ExpectLaunched(Launch(), build);
         EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(lock)));
     }
-    // A folder that others can write is no place for a lock.
+    EXPECT_TRUE(fs::is_empty(At("tmp")));
+    // A folder that others can write is no place for a lock: one of our own is made.
     fs::permissions(At("run"), fs::perms::all);
     fs::remove(lock);
-    environment_["TMPDIR"] = folder();
     LayBundle(++build);
     ExpectLaunched(Launch(), build);
     EXPECT_FALSE(fs::exists(lock));
+    EXPECT_FALSE(fs::is_empty(At("tmp")));
 }
 
 // Ends the launcher at the n-th call of a kind that changes its folders, or lets that call fail, for n from 1 until a

@@ -1,11 +1,10 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 
 #include "file/file-op.h"
 #include "file/internal.h"
@@ -15,9 +14,9 @@ namespace {
 
 constexpr mode_t kFolderMode = 0777;
 
-bool IsFolder(const char* path) {
+bool IsFolder(const std::string& path) {
     struct stat status = {};
-    return stat(path, &status) == 0 && S_ISDIR(status.st_mode);
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 // Sets the umask of the process to 0 while it lives, if told to.
@@ -38,8 +37,8 @@ private:
 };
 
 // mkdir, for which a folder that somebody else has made in between is a success. 0, or the errno.
-int MakeLevel(const char* path, mode_t mode) {
-    if (mkdir(path, mode) == 0) {
+int MakeLevel(const std::string& path, mode_t mode) {
+    if (mkdir(path.c_str(), mode) == 0) {
         return 0;
     }
     const int error = errno;
@@ -48,22 +47,23 @@ int MakeLevel(const char* path, mode_t mode) {
 
 // Sees to it that a folder, or a link to one, stands at `path`, one level of a walk. 0, or the errno that ends the
 // walk.
-int WalkLevel(const char* path, bool isLast, bool replaceFile, mode_t mode) {
+int WalkLevel(const std::string& path, bool isLast, bool replaceFile, mode_t mode) {
     struct stat status = {};
-    if (stat(path, &status) == 0) {
+    if (stat(path.c_str(), &status) == 0) {
         if (S_ISDIR(status.st_mode)) {
             return 0;
         }
         if (replaceFile) {
             // Its failure is that of the mkdir that follows.
-            static_cast<void>(std::remove(path));
+            static_cast<void>(std::remove(path.c_str()));
         } else if (isLast) {
-            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n", path);
+            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
+                        path.c_str());
             return EEXIST;
         } else {
             // Deliberate: the text speaks of a link though a plain file stands there, and the walk goes on: the next
             // level's mkdir is what fails.
-            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is symbolic link pointed to folder\n", path);
+            KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is symbolic link pointed to folder\n", path.c_str());
             return 0;
         }
     }
@@ -90,37 +90,24 @@ int FSMKDirP(const std::string& path, const char** failedAt, bool replaceFile, s
     if (path.empty()) {
         return -1;
     }
-    struct Free {
-        void operator()(char* text) const { std::free(text); }
-    };
-    const std::unique_ptr<char, Free> copy(strdup(path.c_str()));
-    if (!copy) {
-        return -1;
-    }
     const bool hasMode = dirMode != kNoDirMode;
     const NoUmask noUmask(hasMode);
     const mode_t mode = hasMode ? dirMode : kFolderMode;
 
     int error = 0;
-    char* cursor = copy.get();
-    if (*cursor == '/') {
-        ++cursor;  // the root is never tested
-    }
+    std::size_t end = path[0] == '/' ? 1 : 0;  // the root is never tested
     for (;;) {
-        cursor += std::strcspn(cursor, "/");
+        end = std::min(path.find('/', end), path.size());
         // A "/" at the very end makes no further, empty level.
-        const bool isLast = cursor[0] == '\0' || cursor[1] == '\0';
-        const char closing = *cursor;
-        *cursor = '\0';
-        error = WalkLevel(copy.get(), isLast, replaceFile, mode);
-        *cursor = closing;
+        const bool isLast = end + 1 >= path.size();
+        error = WalkLevel(path.substr(0, end), isLast, replaceFile, mode);
         if (error != 0 || isLast) {
             break;
         }
-        ++cursor;
+        ++end;
     }
     if (failedAt != nullptr) {
-        *failedAt = path.c_str() + (cursor - copy.get());
+        *failedAt = path.c_str() + end;
     }
     if (error != 0) {
         errno = error;
@@ -151,7 +138,7 @@ int FSMKDir(const std::string& path, bool recursive) {
     if (recursive) {
         error = FSMKDirP(path, nullptr, false, kNoDirMode) == 0 ? 0 : errno;
     } else {
-        error = MakeLevel(path.c_str(), kFolderMode);
+        error = MakeLevel(path, kFolderMode);
     }
     if (error != 0) {
         KQ_LOG_ERROR(kLogComponent, "path = %s errno : %s\n", path.c_str(), std::strerror(error));

@@ -4,16 +4,13 @@
 
 #include <cstdio>
 #include <locale>
-#include <memory>
 #include <sstream>
+
+#include "posix/handles.h"
 
 namespace {
 
 constexpr std::size_t kLineBuffer = 8192;
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 // Whether the path leads to what may keep a reader waiting, or reading, without an end: a FIFO, a device.
 bool IsEndless(const std::string& path) {
@@ -44,13 +41,10 @@ bool Config::is_value_char(unsigned char byte) {
 }
 
 int Config::read(const std::string& path) {
-    if (path.empty()) {
+    if (path.empty() || IsEndless(path)) {
         return -1;
     }
-    if (IsEndless(path)) {
-        return -1;
-    }
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "r"));
+    const File file(std::fopen(path.c_str(), "r"));
     if (!file) {
         return -1;
     }

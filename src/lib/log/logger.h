@@ -139,6 +139,10 @@ private:
     static int Rotate();
     static void MoveGenerations();
 
+    // Under the lock, once the old stream is closed. Sets `log_fp` to the file at `log_path`, opened anew, or to null
+    // where that fails, with a result of false.
+    static bool ReopenLogFile();
+
     // Write to `log_fp`, flush, and return the number of bytes written, time stamp included; 0 if it is null. The
     // caller holds the lock. A negative result of vfprintf(3) is added in.
     static int PrintToFilePointer(const char* format, ...) LOGGER_PRINTF(1, 2);

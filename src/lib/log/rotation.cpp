@@ -52,17 +52,22 @@ int Logger::Rotate() {
         log_fp = nullptr;
         return -1;
     }
-    std::FILE* const file = xfopen<char>(log_path);
-    if (file == nullptr) {
-        log_fp = nullptr;
+    if (!ReopenLogFile()) {
         return -1;
     }
-    SetHandleFlagInheritFalse(file);
-    log_fp = file;
     ++*log_rotated_count_shared;
     ++log_rotated_count_private;
     errno = errno_before;
     return 0;
+}
+
+bool Logger::ReopenLogFile() {
+    std::FILE* const file = xfopen<char>(log_path);
+    if (file != nullptr) {
+        SetHandleFlagInheritFalse(file);
+    }
+    log_fp = file;
+    return file != nullptr;
 }
 
 void Logger::MoveGenerations() {
@@ -83,13 +88,9 @@ void Logger::ReloadLogFile() {
     if (std::FILE* const old_file = log_fp; old_file != nullptr) {
         std::fclose(old_file);
     }
-    std::FILE* const file = xfopen<char>(log_path);
-    if (file == nullptr) {
-        log_fp = nullptr;
+    if (!ReopenLogFile()) {
         return;
     }
-    SetHandleFlagInheritFalse(file);
-    log_fp = file;
     *log_size = GetFileSize(log_path);
     log_rotated_count_private = *log_rotated_count_shared;
 }

@@ -4,34 +4,29 @@
 
 namespace {
 
-struct Language {
-    const char* tag;   // ISO 639 code, lower case
-    const char* code;  // catalog
+// A tag, lower case, and what it stands for.
+struct Entry {
+    const char* tag;
+    const char* meaning;
 };
 
-// Languages whose tag alone decides. Chinese and Portuguese have two catalogs each.
-constexpr Language kLanguages[] = {
-    {"cs", "csy"}, {"da", "dan"}, {"de", "ger"}, {"en", "enu"}, {"es", "spn"}, {"fr", "fre"}, {"hu", "hun"},
-    {"it", "ita"}, {"ja", "jpn"}, {"ko", "krn"}, {"nb", "nor"}, {"nl", "nld"}, {"nn", "nor"}, {"no", "nor"},
-    {"pl", "plk"}, {"ru", "rus"}, {"sv", "sve"}, {"th", "tha"}, {"tr", "trk"},
+// The catalogs by their language and region. The first of a language serves its other regions as well.
+constexpr Entry kCatalogs[] = {
+#include "languages.inc"
 };
 
-// Chinese is written in two scripts: the tag may name one, otherwise the region tells which is in use there.
-const char* ChineseCode(const QStringList& subtags) {
-    for (const QString& subtag : subtags) {
-        if (subtag == QLatin1String("hant")) {
-            return "cht";
-        }
-        if (subtag == QLatin1String("hans")) {
-            return "chs";
-        }
-    }
-    for (const QString& subtag : subtags) {
-        if (subtag == QLatin1String("tw") || subtag == QLatin1String("hk") || subtag == QLatin1String("mo")) {
-            return "cht";
+// Chinese is written in two scripts, which a tag names or the region implies; Norwegian has two forms and one catalog.
+constexpr Entry kSameAs[] = {
+    {"zh-hans", "zh-cn"}, {"zh-hant", "zh-tw"}, {"zh-hk", "zh-tw"}, {"zh-mo", "zh-tw"}, {"nn", "nb"}, {"no", "nb"},
+};
+
+QString Resolve(const QString& tag) {
+    for (const Entry& entry : kSameAs) {
+        if (tag == QLatin1String(entry.tag)) {
+            return QLatin1String(entry.meaning);
         }
     }
-    return "chs";
+    return tag;
 }
 
 // The catalog of one tag, or null.
@@ -39,16 +34,19 @@ const char* CodeOf(const QString& tag) {
     // A POSIX name brings a character set and a modifier, which say nothing about the language.
     const QString plain = tag.toLower().section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
     QStringList subtags = QString(plain).replace(QLatin1Char('_'), QLatin1Char('-')).split(QLatin1Char('-'));
-    const QString language = subtags.takeFirst();
-    if (language == QLatin1String("zh")) {
-        return ChineseCode(subtags);
+    const QString language = Resolve(subtags.takeFirst()) + QLatin1Char('-');
+    // In their order, so that a script counts before a region.
+    for (const QString& subtag : subtags) {
+        const QString wanted = Resolve(language + subtag);
+        for (const Entry& catalog : kCatalogs) {
+            if (wanted == QLatin1String(catalog.tag)) {
+                return catalog.meaning;
+            }
+        }
     }
-    if (language == QLatin1String("pt")) {
-        return subtags.contains(QLatin1String("pt")) ? "ptg" : "ptb";
-    }
-    for (const Language& known : kLanguages) {
-        if (language == QLatin1String(known.tag)) {
-            return known.code;
+    for (const Entry& catalog : kCatalogs) {
+        if (QLatin1String(catalog.tag).startsWith(language)) {
+            return catalog.meaning;
         }
     }
     return nullptr;

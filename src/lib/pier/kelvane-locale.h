@@ -9,9 +9,8 @@ public:
     // The one object; it lives until the process ends.
     static KelvaneLocale* getInstance();
 
-    // The code of the first of the user's languages that has a catalog: one of "chs", "cht", "csy", "dan", "enu",
-    // "fre", "ger", "hun", "ita", "jpn", "krn", "nld", "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "tha", "trk";
-    // "enu" where none has. Source: QLocale::uiLanguages.
+    // The code of the first of the user's languages that has a catalog, as resources/languages.tsv lists them; "enu"
+    // where none has. Source: QLocale::uiLanguages.
     QString getDefaultLanguage() const;
 
     // The same for a given list of language tags, the most wanted first. A tag is as BCP 47 writes it ("zh-Hant-TW") or

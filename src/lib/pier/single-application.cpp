@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/screen.h"
@@ -53,17 +54,8 @@ bool IsPrivate(const QString& folder) {
 // another kind, the place where the system keeps it; and one of our own below the folder for temporary files.
 // QStandardPaths would do for the first, but it talks to standard error about every machine that does not set it.
 QStringList RuntimeFolders() {
-    const QString own =
-        QDir::tempPath() + QStringLiteral("/%1-%2").arg(QCoreApplication::applicationName()).arg(getuid());
-    mkdir(QFile::encodeName(own).constData(), S_IRWXU);
-    QStringList folders;
-    for (const QString& folder :
-         {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid()), own}) {
-        if (!folder.isEmpty() && IsPrivate(folder)) {
-            folders << folder;
-        }
-    }
-    return folders;
+    return {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid()),
+            QDir::tempPath() + QStringLiteral("/%1-%2").arg(QCoreApplication::applicationName()).arg(getuid())};
 }
 
 // Named after the executable and the home folder, so that two homes do not meet.
@@ -77,21 +69,18 @@ QString LockName() {
 }
 
 // Opens the lock file, which is made where it is missing. Anything else in its place (a folder, a link, a FIFO) is
-// removed: the folder is this user's alone. -1 where that can't be done.
-int OpenLockFile(const QByteArray& path) {
+// removed: the folder is this user's alone. None where that can't be done.
+Fd OpenLockFile(const QByteArray& path) {
     for (int attempt = 0; attempt < 2; ++attempt) {
         // Reading is enough for a lock, and a file that another user made may allow no more.
-        const int descriptor = open(path.constData(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0644);
+        Fd file(open(path.constData(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0644));
         struct stat info = {};
-        if (descriptor >= 0 && fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode)) {
-            return descriptor;
-        }
-        if (descriptor >= 0) {
-            close(descriptor);
+        if (file && fstat(file.get(), &info) == 0 && S_ISREG(info.st_mode)) {
+            return file;
         }
         std::remove(path.constData());
     }
-    return -1;
+    return Fd();
 }
 
 }  // namespace
@@ -101,30 +90,28 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool gui)
     Q_UNUSED(gui)
 }
 
-QtSingleApplication::~QtSingleApplication() {
-    if (lock_ >= 0) {
-        close(lock_);
-    }
-}
-
 bool QtSingleApplication::isRunning() {
     if (decided_) {
         return running_;
     }
     decided_ = true;
     const QString name = LockName();
-    for (const QString& folder : RuntimeFolders()) {
-        const int descriptor = OpenLockFile(QFile::encodeName(folder + name));
-        if (descriptor < 0) {
+    const QStringList folders = RuntimeFolders();
+    for (const QString& folder : folders) {
+        if (folder == folders.last()) {
+            // Made only now that no other folder will do.
+            mkdir(QFile::encodeName(folder).constData(), S_IRWXU);
+        }
+        Fd file = IsPrivate(folder) ? OpenLockFile(QFile::encodeName(folder + name)) : Fd();
+        if (!file) {
             continue;
         }
-        if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
-            lock_ = descriptor;
+        if (flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
+            lock_ = std::move(file);
             break;
         }
-        running_ = errno == EWOULDBLOCK;
-        close(descriptor);
-        if (running_) {
+        if (errno == EWOULDBLOCK) {
+            running_ = true;
             break;
         }
     }

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include "posix/handles.h"
+
 // A QApplication that can tell whether another process of the same application already runs for the same home folder.
 //
 // The first process holds a lock on a file in the user's runtime folder for as long as this object lives. The system
@@ -17,13 +19,12 @@ public:
     // `argc` and `argv` must outlive the object, as for QApplication. `gui` asks for the graphical interface; it is
     // always there in a QApplication, and the argument is part of the class's interface only.
     QtSingleApplication(int& argc, char** argv, bool gui);
-    ~QtSingleApplication() override;
 
     // Whether another process has the lock. Valid before the event loop starts; the first call decides.
     bool isRunning();
 
 private:
-    int lock_ = -1;  // the locked file
+    Fd lock_;  // the locked file
     bool decided_ = false;
     bool running_ = false;
 };

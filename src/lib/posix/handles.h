@@ -1,12 +1,13 @@
-// Owners of the system's file handles.
+// Owners of what the system hands out. Move-only; each gives back what it holds when it goes.
 #pragma once
 
 #include <dirent.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <memory>
 
-// A POSIX descriptor. Move-only; -1 stands for none. Source: close(2).
+// A POSIX descriptor, -1 for none. Source: close(2).
 class Fd {
 public:
     explicit Fd(int descriptor = -1) : descriptor_(descriptor) {}
@@ -39,9 +40,15 @@ private:
     int descriptor_;
 };
 
-// A directory stream. Move-only; null stands for none. Source: closedir(3), whose one failure, EBADF, can't happen
-// here.
+// A directory stream, null for none. Source: closedir(3), which fails for no stream that is open.
 struct CloseDirStream {
     void operator()(DIR* stream) const { ::closedir(stream); }
 };
 using DirStream = std::unique_ptr<DIR, CloseDirStream>;
+
+// A stream of the C library, null for none. Whoever writes to one flushes it first to learn of a late failure. Source:
+// fclose(3).
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;

@@ -1,16 +1,15 @@
 #include "platform/file-reference.h"
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
-#include <memory>
 #include <utility>
 
 #include "platform/linux/name-spelling.h"
+#include "posix/handles.h"
 
 namespace platform {
 
@@ -60,7 +59,7 @@ bool HasOtherSpelling(std::string& folder, const std::string& name) {
 // like it, rather the one with the object's inode, and then the one in the same Unicode form, as there are volumes that
 // ignore case but keep two forms apart. The name itself where none fits or the folder can't be listed.
 std::string ListedName(const std::string& folder, const std::string& name) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), &closedir);
+    const DirStream stream(opendir(folder.c_str()));
     struct stat status = {};
     if (!stream || lstat((folder + name).c_str(), &status) != 0) {
         return name;

@@ -1,10 +1,10 @@
 // The message catalogue of the client family: one line a row, the key and the English source text.
 // The position is the row number, which the programs of the family share: append rows, never move one.
 // lupdate reads the texts from here (context "global"); the catalogs beside this file hold the translations.
-// A `//:` comment is for translators and goes into every catalog. It begins with the kind of the text (Button, Menu item,
-// Tab, Column head, Label, Choice, Check box, Heading, Status, Event, Tooltip, Hint, Link, Name, Screen reader, Fragment,
-// Message), then says where the text stands, what its placeholders become, and what could be mistaken. A row without one
-// is a message that speaks for itself.
+// A `//:` comment is for translators and goes into every catalog. It begins with the kind of control that the text is
+// on, one of those that have a width in scripts/catalog_rules.py, or several with "/" between, then says where the text
+// stands, what its placeholders become, and what could be mistaken. Where several rows have one text, the first has the
+// comment for all of them. A row without one is a message that speaks for itself.
 
 #include "resources/str-table-rows.h"
 
@@ -15,26 +15,26 @@ namespace StrTable {
 // clang-format off
 const Row kRows[kRowCount] = {
     // 0
-    //: Event: what happened to the file named beside it (participle; the file was deleted).
+    //: Event: what happened to the file named beside it, in the history too (participle; the file was deleted).
     {"tray_delete", QT_TRANSLATE_NOOP("global", "Deleted")},
-    //: Menu item in the task's menu: ends the link between this computer and the hub.
+    //: Menu item/Button: ends the link between this computer and the hub (verb).
     {"action_unlink", QT_TRANSLATE_NOOP("global", "Unlink")},
-    //: Check box in the connection settings; Ferrylink is the name of a relay service.
+    //: Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.
     {"connection_use_ferrylink", QT_TRANSLATE_NOOP("global", "Connect through Ferrylink")},
     //: Button beside a warning about the folder that was chosen.
     {"btn_choseother", QT_TRANSLATE_NOOP("global", "Choose another folder")},
     //: Button in a question: puts the files of two folders together.
     {"btn_merge", QT_TRANSLATE_NOOP("global", "Merge")},
-    //: Heading of a message box; also the state of a task that failed.
+    //: Heading/Status: title of a message box, and the state of a task that failed.
     {"err_common", QT_TRANSLATE_NOOP("global", "Error")},
     //: Message: %1 is the new file name.
     {"err_conflict", QT_TRANSLATE_NOOP("global", "File conflicts occurred. The file is now renamed as %1.")},
     {"err_inval", QT_TRANSLATE_NOOP("global", "The value is invalid. Please check it and try again.")},
     {"err_network", QT_TRANSLATE_NOOP("global", "The network is not available. Please check your connection and try again.")},
-    //: Button on the last page of a wizard: completes the set-up.
+    //: Button on the last page of a wizard and of the installer (verb).
     {"finish", QT_TRANSLATE_NOOP("global", "Finish")},
     // 10
-    //: Label above the path of the folder on this computer.
+    //: Label/Column head: above the path of the folder on this computer, and of a list of such folders.
     {"title_chart_local", QT_TRANSLATE_NOOP("global", "Local folder")},
     //: Menu item in the tray menu: links this computer to the hub again.
     {"tray_relink", QT_TRANSLATE_NOOP("global", "Link again")},
@@ -70,35 +70,34 @@ const Row kRows[kRowCount] = {
     {"tray_exit", QT_TRANSLATE_NOOP("global", "Quit")},
     //: Menu item in the tray menu: opens the list of these files.
     {"tray_updatedfile", QT_TRANSLATE_NOOP("global", "Recently updated files")},
-    //: Event: what happened to the file named beside it (participle; the file was downloaded).
+    //: Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).
     {"tray_download", QT_TRANSLATE_NOOP("global", "Downloaded")},
     // 30
     //: Button: opens the help.
     {"btn_help", QT_TRANSLATE_NOOP("global", "Help")},
-    //: Button: closes a box and takes what was entered.
+    //: Button: closes a box and takes what was entered, in the installer too.
     {"btn_ok", QT_TRANSLATE_NOOP("global", "OK")},
-    //: Button: closes a box and drops what was entered.
+    //: Button: closes a box and drops what was entered, in the installer too (verb).
     {"btn_cancel", QT_TRANSLATE_NOOP("global", "Cancel")},
-    //: Button: goes to the next page of a wizard.
+    //: Button: goes to the next page of a wizard and of the installer.
     {"btn_next", QT_TRANSLATE_NOOP("global", "Next")},
-    //: Button: goes to the page before in a wizard.
+    //: Button: goes to the page before in a wizard and in the installer.
     {"btn_back", QT_TRANSLATE_NOOP("global", "Back")},
     //: Button on the first page of the set-up: begins with it.
     {"welcome_go", QT_TRANSLATE_NOOP("global", "Get started")},
     //: Label in the about box, beside the version number.
     {"version", QT_TRANSLATE_NOOP("global", "Version")},
-    //: Menu item in the connection settings; Ferrylink is the name of a relay service.
     {"use_ferry_link", QT_TRANSLATE_NOOP("global", "Connect through Ferrylink")},
     //: Status, shown while the client looks through the folders.
     {"msg_catchevent", QT_TRANSLATE_NOOP("global", "Looking for changes...")},
     //: Status in the tray.
     {"err_disconn", QT_TRANSLATE_NOOP("global", "The connection to the hub was lost. Reconnecting...")},
     // 40
-    //: Event: what happened to the file named beside it (participle; the file was uploaded).
+    //: Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).
     {"tray_upload", QT_TRANSLATE_NOOP("global", "Uploaded")},
-    //: Choice: last entry of a list of filters: the user sets one (verb).
+    //: Choice: last entry of a list of filters or periods: the user sets one (verb).
     {"filter_customize", QT_TRANSLATE_NOOP("global", "Customize")},
-    //: Label beside a time of day.
+    //: Label/Column head: beside a time of day, and when something happened to a file.
     {"time_time", QT_TRANSLATE_NOOP("global", "Time")},
     //: Choice: how the hub is reached: in the same network.
     {"conn_mode_lan", QT_TRANSLATE_NOOP("global", "Local network")},
@@ -123,11 +122,11 @@ const Row kRows[kRowCount] = {
     {"title_conn_mode", QT_TRANSLATE_NOOP("global", "Connection type")},
     //: Heading of a warning: nothing can be changed in the folder.
     {"title_folder_readonly", QT_TRANSLATE_NOOP("global", "Read-only folder")},
-    //: Menu item in the tray menu: opens the settings.
+    //: Menu item/Button/Tab: opens the settings.
     {"tray_setinfo", QT_TRANSLATE_NOOP("global", "Settings")},
     //: Button in the settings of a shared folder.
     {"manage_share_change_folder", QT_TRANSLATE_NOOP("global", "Change the local folder")},
-    //: Heading of the page of the folders that the hub shares (noun; folders).
+    //: Heading/Tab: the folders that the hub shares (noun; folders).
     {"manage_share_title", QT_TRANSLATE_NOOP("global", "Shared folders")},
     //: Message of the connection settings, and of a task.
     {"msg_ssl_error", QT_TRANSLATE_NOOP("global", "The SSL certificate of the hub could not be verified.")},
@@ -142,7 +141,7 @@ const Row kRows[kRowCount] = {
     {"manage_proxy_chk_no_proxy", QT_TRANSLATE_NOOP("global", "Do not use a proxy server")},
     //: Choice, second of three: none, the system's, manual.
     {"manage_proxy_chk_sys_proxy", QT_TRANSLATE_NOOP("global", "Use the proxy settings of the system")},
-    //: Label beside the field for the proxy server's password.
+    //: Label beside a field.
     {"manage_proxy_label_password", QT_TRANSLATE_NOOP("global", "Password")},
     //: Heading of the box in which a folder is chosen.
     {"msg_seldir", QT_TRANSLATE_NOOP("global", "Select a folder")},
@@ -160,7 +159,6 @@ const Row kRows[kRowCount] = {
     //: Status, shown while the settings are being stored.
     {"manage_setting_applying", QT_TRANSLATE_NOOP("global", "Applying the settings...")},
     {"err_invalid_port_number", QT_TRANSLATE_NOOP("global", "Please enter a port number from 1 to 65535.")},
-    //: Button: drops the changes on the proxy page.
     {"management_proxy_cancel_btn", QT_TRANSLATE_NOOP("global", "Cancel")},
     {"err_proxy_ipport_empty", QT_TRANSLATE_NOOP("global", "Please enter the address and the port of the proxy server.")},
     //: Choice, third of three: none, the system's, manual.
@@ -171,19 +169,18 @@ const Row kRows[kRowCount] = {
     // 80
     //: Column head of the list of shared folders.
     {"manage_share_name", QT_TRANSLATE_NOOP("global", "Shared folder name")},
-    //: Column head of the list of shared folders: whether the folder is synced.
+    //: Column head: whether a folder or file is synced.
     {"manage_share_status", QT_TRANSLATE_NOOP("global", "Status")},
-    //: Tab of the settings: the folders that the hub shares.
     {"manage_share_tab_name", QT_TRANSLATE_NOOP("global", "Shared folders")},
-    //: Button: takes over the changes on the proxy page (verb).
+    //: Button: takes over the changes (verb).
     {"management_proxy_apply_btn", QT_TRANSLATE_NOOP("global", "Apply")},
     //: Button: opens the network page of the system.
     {"network_management_page_btn", QT_TRANSLATE_NOOP("global", "Network settings")},
-    //: Menu item in the tray menu: opens the page on which tasks are managed (verb).
+    //: Menu item/Button: opens the page on which tasks or other things are managed (verb).
     {"tray_management_page", QT_TRANSLATE_NOOP("global", "Manage")},
     //: Check box of the proxy page: the fields for username and password follow.
     {"manage_proxy_chk_account", QT_TRANSLATE_NOOP("global", "The proxy server requires sign-in")},
-    //: Status, short, in the tray: an unexpected error.
+    //: Status, short, in the tray and of a task: an unexpected error.
     {"notify_abnormal_short", QT_TRANSLATE_NOOP("global", "Something went wrong")},
     //: Status, short, in the tray: the client or a file is being brought up to date.
     {"tray_updating", QT_TRANSLATE_NOOP("global", "Updating...")},
@@ -200,7 +197,7 @@ const Row kRows[kRowCount] = {
     {"manage_option_tab_name", QT_TRANSLATE_NOOP("global", "Options")},
     //: Heading of the general page of the settings.
     {"manage_option_title", QT_TRANSLATE_NOOP("global", "General options")},
-    //: Check box of the general options.
+    //: Check box of the general options, and of the display settings.
     {"manage_option_use_black_white_icon", QT_TRANSLATE_NOOP("global", "Use a black-and-white icon in the system tray")},
     //: Message: %1 is the folder's name.
     {"notify_new_share", QT_TRANSLATE_NOOP("global", "The shared folder \"%1\" is available to you. You can set it to sync with this computer.")},
@@ -234,12 +231,13 @@ const Row kRows[kRowCount] = {
     {"err_shareitem_delete", QT_TRANSLATE_NOOP("global", "The shared folder could not be removed from the list.")},
     {"auto_setup_key_configurated", QT_TRANSLATE_NOOP("global", "This setup key has already been used. Please request a new one from your administrator.")},
     {"msg_language_restart", QT_TRANSLATE_NOOP("global", "The new language takes effect after you restart the application.")},
-    //: Choice: a type of item in a filter or list (noun, singular).
+    //: Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).
     {"type_folder", QT_TRANSLATE_NOOP("global", "Folder")},
     {"msg_localdiskfull", QT_TRANSLATE_NOOP("global", "The disk of this computer is full. Please free up some space and try again.")},
     //: Status, shown while the list of folders comes from the hub.
     {"selective_sync_loading", QT_TRANSLATE_NOOP("global", "Loading the folder list...")},
-    //: Button: takes the shared folder off the list; its files are kept.
+    //: Button/Menu item/Label: takes an entry off a list, someone's right off a file, the program off the computer
+    //: (verb).
     {"btn_shareitem_delete", QT_TRANSLATE_NOOP("global", "Remove")},
     {"msg_confirm_unlink", QT_TRANSLATE_NOOP("global", "Are you sure you want to unlink this computer from the hub?")},
     //: Column head of the list of files: the folder that a file goes to.
@@ -285,13 +283,12 @@ const Row kRows[kRowCount] = {
     {"manage_option_merge_mode", QT_TRANSLATE_NOOP("global", "Conflict handling")},
     //: Status: stands in place of a list that is on its way.
     {"loading", QT_TRANSLATE_NOOP("global", "Loading...")},
-    //: Label beside a list: two-way sync, upload only, download only (the way in which is synced).
+    //: Label/Heading: two-way sync, upload only, download only (the way in which is synced).
     {"manage_option_sync_mode", QT_TRANSLATE_NOOP("global", "Sync mode")},
     // 140
-    //: Status in the tray: the task or the client was paused.
+    //: Status in the tray and of a task (participle; the task or the client was paused).
     {"tray_status_paused", QT_TRANSLATE_NOOP("global", "Paused")},
     {"msg_folder_mount_point", QT_TRANSLATE_NOOP("global", "The folder is a mount point and cannot be synced. Please choose another folder.")},
-    //: Column head of the list of files: when it happened.
     {"col_time", QT_TRANSLATE_NOOP("global", "Time")},
     //: Message: %1 is a file name.
     {"msg_download_aborted", QT_TRANSLATE_NOOP("global", "The download of \"%1\" was canceled.")},
@@ -301,21 +298,18 @@ const Row kRows[kRowCount] = {
     {"status_desc_quotafull", QT_TRANSLATE_NOOP("global", "Synchronization has stopped because your storage quota on the hub is used up.")},
     //: Status in the tray: this computer is being linked to the hub.
     {"tray_status_linking", QT_TRANSLATE_NOOP("global", "Linking...")},
-    //: Button: opens the page on which a thing is managed (verb).
     {"btn_manage", QT_TRANSLATE_NOOP("global", "Manage")},
-    //: Status, short: the user may not use the shared folder.
+    //: Status/Heading, short: the user may not do this, or not use the shared folder.
     {"err_share_perm_short", QT_TRANSLATE_NOOP("global", "Permission denied")},
     // 150
-    //: Status, short, of a task: the user may not do this.
     {"status_desc_perm_short", QT_TRANSLATE_NOOP("global", "Permission denied")},
     {"err_user_info_unavailable", QT_TRANSLATE_NOOP("global", "Your account information could not be retrieved from the hub.")},
-    //: Status, short, of a task: an unexpected error.
     {"status_desc_abnormal_short", QT_TRANSLATE_NOOP("global", "Something went wrong")},
     //: Column head of a list, or a label beside a field: the name of this computer.
     {"col_computer_name", QT_TRANSLATE_NOOP("global", "Computer name")},
     //: Status, short, in the tray: the connection comes and goes.
     {"tray_unstable", QT_TRANSLATE_NOOP("global", "The connection is unstable")},
-    //: Menu item of the file manager: makes a link (URL) to the file and copies it.
+    //: Menu item: makes a link (URL) to the file and copies it.
     {"context_menu_share_link", QT_TRANSLATE_NOOP("global", "Get link")},
     //: Status, shown while this computer is being linked to the hub.
     {"msg_linking", QT_TRANSLATE_NOOP("global", "Linking this computer to the hub...")},
@@ -326,21 +320,19 @@ const Row kRows[kRowCount] = {
     //: Heading of a warning about the SSL certificate.
     {"title_ssl_warning", QT_TRANSLATE_NOOP("global", "Certificate warning")},
     // 160
-    //: Button of a connection: interrupts all its tasks for a while (verb).
+    //: Button/Menu item: interrupts a task, or all, for a while (verb).
     {"pause_connection", QT_TRANSLATE_NOOP("global", "Pause")},
-    //: Button of a connection: goes on with its tasks after a pause (verb).
+    //: Button/Menu item: goes on with a task, or all, after a pause (verb).
     {"resume_connection", QT_TRANSLATE_NOOP("global", "Resume")},
-    //: Button of a connection: ends the link between this computer and the hub (verb).
     {"unlink_connection", QT_TRANSLATE_NOOP("global", "Unlink")},
-    //: Column head of the list of files: whether the file is synced.
     {"col_file_status", QT_TRANSLATE_NOOP("global", "Status")},
     //: Button: opens the rules by which files are not synced (noun).
     {"black_list_btn", QT_TRANSLATE_NOOP("global", "Exclusion rules")},
-    //: Column head of the list of files: what was done with the file (noun).
+    //: Column head: what was done with the file (noun).
     {"col_file_action", QT_TRANSLATE_NOOP("global", "Action")},
-    //: Column head of the list of files.
+    //: Column head of a list of files.
     {"col_file_name", QT_TRANSLATE_NOOP("global", "File name")},
-    //: Column head of the list of files: the size in bytes.
+    //: Column head/Label: the size of a file.
     {"col_file_size", QT_TRANSLATE_NOOP("global", "Size")},
     //: Column head of a list: an identifier.
     {"col_id", QT_TRANSLATE_NOOP("global", "ID")},
@@ -364,7 +356,6 @@ const Row kRows[kRowCount] = {
     {"msg_download_fail", QT_TRANSLATE_NOOP("global", "Download failed")},
     //: Heading of a page: the hub's name, version, space and so on.
     {"hub_overview", QT_TRANSLATE_NOOP("global", "Hub overview")},
-    //: Label beside a file's size.
     {"size_title", QT_TRANSLATE_NOOP("global", "Size")},
     // 180
     {"status_desc_hub_changed", QT_TRANSLATE_NOOP("global", "The hub at this address has changed. Please link this computer again.")},
@@ -380,19 +371,15 @@ const Row kRows[kRowCount] = {
     {"desc_cannot_list_version", QT_TRANSLATE_NOOP("global", "The version history of this file is not available.")},
     // 190
     {"desc_cannot_share_link", QT_TRANSLATE_NOOP("global", "A link cannot be created for this item.")},
-    //: Message of the connection settings, and of a task.
     {"err_ssl_verify_fail", QT_TRANSLATE_NOOP("global", "The SSL certificate of the hub could not be verified.")},
     //: Heading of the state of a task that waits for work (a state, noun or adjective; belongs to "task").
     {"title_standby", QT_TRANSLATE_NOOP("global", "Standby")},
     //: Label beside a list of actions: what a double click on the tray icon does.
     {"title_icon_double_clicked", QT_TRANSLATE_NOOP("global", "When the tray icon is double-clicked")},
     {"tooltip_folder_indexing", QT_TRANSLATE_NOOP("global", "The hub is indexing this folder. Please wait.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     {"err_init_failed", QT_TRANSLATE_NOOP("global", "Initialization failed. Please restart the application.")},
-    //: Button of the installer: goes to the page before.
     {"msi_button_back", QT_TRANSLATE_NOOP("global", "Back")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_ready_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     {"msi_filesinuse_dlg_description", QT_TRANSLATE_NOOP("global", "Setup cannot replace files that other applications have open.")},
     // 200
@@ -400,7 +387,7 @@ const Row kRows[kRowCount] = {
     {"msi_button_exit", QT_TRANSLATE_NOOP("global", "Exit")},
     //: Button of the installer: prints the license agreement (verb).
     {"msi_button_print", QT_TRANSLATE_NOOP("global", "Print")},
-    //: Choice of the installer, second of two: what happens to programs that have files open.
+    //: Message of the installer, second of two: what happens to programs that have files open.
     {"msi_filesinuse_dlg_closenone", QT_TRANSLATE_NOOP("global", "Leave the applications open. You will have to restart the computer afterward.")},
     {"msi_maintenance_dlg_repair_text", QT_TRANSLATE_NOOP("global", "Puts back missing or damaged program files, shortcuts, and registry entries.")},
     //: Check box on the installer's last page; [ProductName] becomes a product name.
@@ -408,44 +395,35 @@ const Row kRows[kRowCount] = {
     {"msi_exit_dlg_text", QT_TRANSLATE_NOOP("global", "[ProductName] will keep your files safe and in sync.")},
     //: Message of the installer; Finish is its button.
     {"msi_exit_dlg_description", QT_TRANSLATE_NOOP("global", "Click Finish to close Setup.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_error_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_maintenance_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_exit_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     // 210
     //: Message of a task; a disk drive of this computer.
     {"err_syncfolder_not_mounted", QT_TRANSLATE_NOOP("global", "The drive that holds the local folder is not connected.")},
     //: Tooltip of the installer's button; [ProductName] becomes a product name.
     {"msi_maintenance_dlg_repair_tooltip", QT_TRANSLATE_NOOP("global", "Repair [ProductName]")},
-    //: Button of the installer: takes the program off the computer (verb).
     {"msi_button_remove", QT_TRANSLATE_NOOP("global", "Remove")},
-    //: Menu item of the file manager: opens the list of older versions of the file.
+    //: Menu item: opens the list of older versions of the file.
     {"context_menu_version_browse", QT_TRANSLATE_NOOP("global", "Browse previous versions")},
     {"msi_maintenance_dlg_subtitle", QT_TRANSLATE_NOOP("global", "What would you like to do?")},
     {"msi_progress_dlg_text", QT_TRANSLATE_NOOP("global", "[ProductName] is being installed on your computer.")},
     //: Choice of the sync direction: from the hub to this computer alone, nothing is uploaded.
     {"download_only", QT_TRANSLATE_NOOP("global", "Download only")},
     {"msi_fatalerror_dlg_description1", QT_TRANSLATE_NOOP("global", "An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.")},
-    //: Button of the installer.
     {"msi_button_cancel", QT_TRANSLATE_NOOP("global", "Cancel")},
     //: Button of the installer, beside Retry: goes on although files are in use (verb).
     {"msi_button_ignore", QT_TRANSLATE_NOOP("global", "Ignore")},
     // 220
-    //: Button of the installer, on its last page (verb).
     {"msi_button_finish", QT_TRANSLATE_NOOP("global", "Finish")},
     //: Button: answers a question of the installer.
     {"msi_button_no", QT_TRANSLATE_NOOP("global", "No")},
     //: Message: an entry of a list: what the exported file holds about this computer and about the hub.
     {"msg_info_description", QT_TRANSLATE_NOOP("global", "Information about this computer and the hub that it is linked to.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_maintenance_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     //: Label of the installer, before the step that is being done; a colon ends it.
     {"msi_progress_dlg_status_label", QT_TRANSLATE_NOOP("global", "Status:")},
-    //: Button of the installer.
     {"msi_button_ok", QT_TRANSLATE_NOOP("global", "OK")},
-    //: Button: ends the link between this computer and the hub (verb).
     {"btn_unlink", QT_TRANSLATE_NOOP("global", "Unlink")},
     //: Button of the installer (verb).
     {"msi_button_install", QT_TRANSLATE_NOOP("global", "Install")},
@@ -458,50 +436,42 @@ const Row kRows[kRowCount] = {
     {"read_only", QT_TRANSLATE_NOOP("global", "Read only")},
     //: Heading of an installer page (noun).
     {"msi_eula_dlg_subtitle", QT_TRANSLATE_NOOP("global", "License agreement")},
-    //: Button of the installer: goes to the next page.
     {"msi_button_next", QT_TRANSLATE_NOOP("global", "Next")},
-    //: Label of the installer, above a list of programs; [ProductName] becomes a product name.
+    //: Message of the installer, above a list of programs; [ProductName] becomes a product name.
     {"msi_filesinuse_dlg_text", QT_TRANSLATE_NOOP("global", "These applications have files open that [ProductName] Setup needs to replace:")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_eula_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     //: Heading of a chart of what was transferred lately (noun).
     {"title_chart_tray", QT_TRANSLATE_NOOP("global", "Sync activity")},
-    //: Label of the installer, beside its button: puts damaged files right (verb).
+    //: Label/Button of the installer: puts damaged files right (verb).
     {"msi_maintenance_dlg_repair_label", QT_TRANSLATE_NOOP("global", "Repair")},
     //: Heading of an installer page while it works; [ProductName] becomes a product name.
     {"msi_progress_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Installing [ProductName]")},
     {"err_local_sync_folder_miss", QT_TRANSLATE_NOOP("global", "The local folder is missing. It may have been moved, renamed, or deleted.")},
-    //: Button of the installer: puts damaged files right (verb).
     {"msi_button_repair", QT_TRANSLATE_NOOP("global", "Repair")},
     // 240
     //: Button of the installer: tries once more (verb).
     {"msi_button_retry", QT_TRANSLATE_NOOP("global", "Retry")},
-    //: Button: answers a question of the installer.
+    //: Button: answers a question, in the installer too.
     {"msi_button_yes", QT_TRANSLATE_NOOP("global", "Yes")},
     {"msi_cancel_dlg_text", QT_TRANSLATE_NOOP("global", "Do you really want to cancel the installation of [ProductName]?")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_cancel_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     {"msi_eula_dlg_description", QT_TRANSLATE_NOOP("global", "Please read the agreement before you continue.")},
-    //: Message of the installer; Finish is its button.
     {"msi_fatalerror_dlg_description2", QT_TRANSLATE_NOOP("global", "Click Finish to close Setup.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_fatalerror_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
-    //: Choice of the installer, first of two: what happens to programs that have files open.
+    //: Message of the installer, first of two: what happens to programs that have files open.
     {"msi_filesinuse_dlg_closeall", QT_TRANSLATE_NOOP("global", "Close the applications now and reopen them when Setup is done.")},
     //: Heading of an installer page: files that other programs have open.
     {"msi_filesinuse_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Files in use")},
     {"msi_filesinuse_dlg_text2", QT_TRANSLATE_NOOP("global", "Close the applications and click Retry. If you click Ignore, [ProductName] will be complete only after the next restart of the computer.")},
     // 250
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_filesinuse_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
-    //: Label of the installer, beside its button: other features are to be installed (verb).
+    //: Label/Button: takes another value, in the installer other features (verb).
     {"msi_maintenance_dlg_change_label", QT_TRANSLATE_NOOP("global", "Change")},
     {"msi_maintenance_dlg_change_text", QT_TRANSLATE_NOOP("global", "Choose which features are installed and where.")},
     {"msi_maintenance_dlg_change_text_disabled", QT_TRANSLATE_NOOP("global", "[ProductName] is always installed with all its features.")},
     //: Tooltip of the installer's button; [ProductName] becomes a product name.
     {"msi_maintenance_dlg_change_tooltip", QT_TRANSLATE_NOOP("global", "Change [ProductName]")},
     {"msi_maintenance_dlg_description", QT_TRANSLATE_NOOP("global", "You can change, repair, or remove the installed program.")},
-    //: Label of the installer, beside its button: takes the program off the computer (verb).
     {"msi_maintenance_dlg_remove_label", QT_TRANSLATE_NOOP("global", "Remove")},
     {"msi_maintenance_dlg_remove_text", QT_TRANSLATE_NOOP("global", "Removes the program and its settings from your computer.")},
     {"msi_progress_dlg_description", QT_TRANSLATE_NOOP("global", "This may take several minutes.")},
@@ -513,25 +483,20 @@ const Row kRows[kRowCount] = {
     //: Heading of an installer page; [ProductName] becomes a product name.
     {"msi_readyremove_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Ready to remove [ProductName]")},
     {"msi_readyremove_dlg_text", QT_TRANSLATE_NOOP("global", "Click Remove to remove [ProductName] from this computer. Your synced files will be kept.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_readyremove_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     {"msi_readyrepair_dlg_description", QT_TRANSLATE_NOOP("global", "Setup is about to repair the program.")},
     //: Heading of an installer page; [ProductName] becomes a product name.
     {"msi_readyrepair_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Ready to repair [ProductName]")},
     //: Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.
     {"msi_readyrepair_dlg_text", QT_TRANSLATE_NOOP("global", "Click Repair to start, Back to choose another action, or Cancel to leave Setup.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_readyrepair_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     //: Message of the installer: the user ended it before it had installed anything (canceled, not completed).
     {"msi_userexit_dlg_description1", QT_TRANSLATE_NOOP("global", "You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.")},
     // 270
-    //: Message of the installer; Finish is its button.
     {"msi_userexit_dlg_description2", QT_TRANSLATE_NOOP("global", "Click Finish to close Setup.")},
-    //: Heading of an installer window; [ProductName] becomes a product name; "Setup" is the installer.
     {"msi_userexit_dlg_title", QT_TRANSLATE_NOOP("global", "[ProductName] Setup")},
     //: Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.
     {"msi_welcome_dlg_description", QT_TRANSLATE_NOOP("global", "This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.")},
-    //: Button: takes an entry off a list (verb).
     {"remove_btn", QT_TRANSLATE_NOOP("global", "Remove")},
     //: Label of a range of dates, before the first field; "To" stands before the second.
     {"history_from", QT_TRANSLATE_NOOP("global", "From")},
@@ -541,7 +506,6 @@ const Row kRows[kRowCount] = {
     {"msi_exit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "[ProductName] is now installed")},
     //: Heading of the installer's last page; [ProductName] becomes a product name; the user canceled.
     {"msi_userexit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Setup of [ProductName] was canceled")},
-    //: Button: ends a task's link with the hub (verb).
     {"session_unlink_btn", QT_TRANSLATE_NOOP("global", "Unlink")},
     //: Heading of the list of what was downloaded (noun).
     {"main_download_history", QT_TRANSLATE_NOOP("global", "Download history")},
@@ -554,13 +518,10 @@ const Row kRows[kRowCount] = {
     {"share_enabled", QT_TRANSLATE_NOOP("global", "Synchronization enabled")},
     //: Button: adds a sync task.
     {"session_add_btn", QT_TRANSLATE_NOOP("global", "Add task")},
-    //: Heading of an installer page; [ProductName] becomes a product name.
     {"msi_welcome_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Welcome to [ProductName] Setup")},
-    //: Button of a task: interrupts it for a while (verb).
     {"session_pause_btn", QT_TRANSLATE_NOOP("global", "Pause")},
     //: Choice of the installer, first of two; the user speaks.
     {"msi_eula_dlg_accept", QT_TRANSLATE_NOOP("global", "I accept the license agreement")},
-    //: Button of a task: goes on after a pause (verb).
     {"session_resume_btn", QT_TRANSLATE_NOOP("global", "Resume")},
     //: Button: empties the fields of a filter (verb).
     {"filter_reset", QT_TRANSLATE_NOOP("global", "Reset")},
@@ -594,7 +555,7 @@ const Row kRows[kRowCount] = {
     //: Label below the product's name: a slogan, three verbs.
     {"msg_slogan", QT_TRANSLATE_NOOP("global", "Sync, share, and protect your files")},
     {"err_ferryconn_file_sharing", QT_TRANSLATE_NOOP("global", "File sharing through Ferrylink is disabled on the hub. Please contact your administrator.")},
-    //: Choice of a list of periods, or the head of a group of events.
+    //: Choice/Heading: an entry of a list of periods, and the head of a group of events.
     {"history_yesterday", QT_TRANSLATE_NOOP("global", "Yesterday")},
     {"wizard_setup_mode_page_desc", QT_TRANSLATE_NOOP("global", "Choose how you want to set up Tessaly.")},
     //: Choice of the wizard, first of two ways to set up the client (not the installer; noun).
@@ -602,7 +563,6 @@ const Row kRows[kRowCount] = {
     //: Label below a list; %1 and %2 are the numbers of the first and the last item shown, %3 is how many there are.
     {"history_items", QT_TRANSLATE_NOOP("global", "Items %1 to %2 of %3")},
     // 310
-    //: Button: answers a question.
     {"yes", QT_TRANSLATE_NOOP("global", "Yes")},
     //: Button: closes a hint: the user has understood it.
     {"got_it", QT_TRANSLATE_NOOP("global", "Got it")},
@@ -616,16 +576,14 @@ const Row kRows[kRowCount] = {
     //: in one style.
     {"time_hour_ago", QT_TRANSLATE_NOOP("global", "%1 hours ago")},
     {"wizard_new_sync_folder_desc", QT_TRANSLATE_NOOP("global", "Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.")},
-    //: Choice of a filter of the history: a type of item (noun, singular).
     {"history_folder", QT_TRANSLATE_NOOP("global", "Folder")},
     //: Label: a month's name, in the head of a calendar.
     {"month_may", QT_TRANSLATE_NOOP("global", "May")},
     // 320
     //: Heading of a warning of the wizard.
     {"wizard_setup_repeat_warning_title", QT_TRANSLATE_NOOP("global", "This computer is already linked")},
-    //: Event in the history: what happened to the file (participle; the file was renamed).
+    //: Event: what happened to the file named beside it, in the history too (participle; the file was renamed).
     {"history_rename", QT_TRANSLATE_NOOP("global", "Renamed")},
-    //: Status: state of a file before its transfer.
     {"progress_preparing", QT_TRANSLATE_NOOP("global", "Preparing...")},
     //: Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes
     //: in one style.
@@ -635,7 +593,7 @@ const Row kRows[kRowCount] = {
     //: Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes
     //: in one style.
     {"time_minute_ago", QT_TRANSLATE_NOOP("global", "%1 minutes ago")},
-    //: Choice of a filter of the history: a type of item (noun, singular).
+    //: Choice: a type of item in a filter or list (noun, singular).
     {"history_file", QT_TRANSLATE_NOOP("global", "File")},
     //: Choice of a list of periods: the calendar month before this one.
     {"history_last_month", QT_TRANSLATE_NOOP("global", "Last month")},
@@ -644,17 +602,13 @@ const Row kRows[kRowCount] = {
     //: Label of a range of dates, before the second field; "From" stands before the first.
     {"history_to", QT_TRANSLATE_NOOP("global", "To")},
     // 330
-    //: Event in the history: what happened to the file (participle; the file was deleted).
     {"history_delete", QT_TRANSLATE_NOOP("global", "Deleted")},
-    //: Event in the history: what happened to the file (participle; the file was downloaded).
     {"history_download", QT_TRANSLATE_NOOP("global", "Downloaded")},
-    //: Label beside a list: the type of item.
+    //: Label/Column head: the type of an item or a file.
     {"history_type", QT_TRANSLATE_NOOP("global", "Type")},
     //: Choice of a list of periods: the calendar week before this one.
     {"history_last_week", QT_TRANSLATE_NOOP("global", "Last week")},
-    //: Event in the history: what happened to the file (participle; the file was uploaded).
     {"history_upload", QT_TRANSLATE_NOOP("global", "Uploaded")},
-    //: Button: empties the fields of a filter (verb).
     {"history_reset", QT_TRANSLATE_NOOP("global", "Reset")},
     //: Label: a month's name, in the head of a calendar.
     {"month_apr", QT_TRANSLATE_NOOP("global", "April")},
@@ -669,7 +623,6 @@ const Row kRows[kRowCount] = {
     {"month_oct", QT_TRANSLATE_NOOP("global", "October")},
     //: Menu item of the file manager, one folder: it is synced once more.
     {"context_menu_resume_folder", QT_TRANSLATE_NOOP("global", "Sync this folder again")},
-    //: Column head of the history: when it happened.
     {"history_time", QT_TRANSLATE_NOOP("global", "Time")},
     //: Menu item of the file manager, several folders: they are no longer synced.
     {"context_menu_filter_folders", QT_TRANSLATE_NOOP("global", "Stop syncing these folders")},
@@ -686,13 +639,11 @@ const Row kRows[kRowCount] = {
     //: Heading of the list of files that are being synced at present.
     {"tray_current_syncing", QT_TRANSLATE_NOOP("global", "Now syncing")},
     // 350
-    //: Column head of the history: what was done with the file (noun).
     {"history_action", QT_TRANSLATE_NOOP("global", "Action")},
     //: Label: a month's name, in the head of a calendar.
     {"month_sep", QT_TRANSLATE_NOOP("global", "September")},
     //: Choice of a filter of the history: no type of event is left out.
     {"history_all_event", QT_TRANSLATE_NOOP("global", "All events")},
-    //: Choice of a list of periods: the user sets one (verb).
     {"history_customize", QT_TRANSLATE_NOOP("global", "Customize")},
     //: Label: a month's name, in the head of a calendar.
     {"month_jul", QT_TRANSLATE_NOOP("global", "July")},
@@ -700,7 +651,6 @@ const Row kRows[kRowCount] = {
     {"history_date", QT_TRANSLATE_NOOP("global", "Date")},
     //: Label: a month's name, in the head of a calendar.
     {"month_jun", QT_TRANSLATE_NOOP("global", "June")},
-    //: Column head of the history.
     {"history_file_name", QT_TRANSLATE_NOOP("global", "File name")},
     //: Label: a month's name, in the head of a calendar.
     {"month_mar", QT_TRANSLATE_NOOP("global", "March")},
@@ -709,7 +659,8 @@ const Row kRows[kRowCount] = {
     // 360
     //: Column head of the history: the kind of file.
     {"history_file_type", QT_TRANSLATE_NOOP("global", "File type")},
-    //: Menu item: opens the wizard that sets up the client step by step; not the same as "Advanced settings".
+    //: Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not
+    //: "Advanced settings".
     {"advan_setup_wizard", QT_TRANSLATE_NOOP("global", "Advanced setup")},
     //: Check box below a message.
     {"dont_show_msg", QT_TRANSLATE_NOOP("global", "Do not show this message again")},
@@ -732,7 +683,6 @@ const Row kRows[kRowCount] = {
     {"local_hub_search", QT_TRANSLATE_NOOP("global", "Find hubs on the local network")},
     //: Heading of a box with the state of a task.
     {"title_status_info", QT_TRANSLATE_NOOP("global", "Status information")},
-    //: Label beside a field.
     {"title_pwd", QT_TRANSLATE_NOOP("global", "Password")},
     //: Label beside a field.
     {"title_usr", QT_TRANSLATE_NOOP("global", "Username")},
@@ -750,7 +700,6 @@ const Row kRows[kRowCount] = {
     {"wizard_sync_folder_new_session", QT_TRANSLATE_NOOP("global", "Sync another folder with this hub")},
     //: Heading of a wizard page.
     {"wizard_new_sync_folder_title", QT_TRANSLATE_NOOP("global", "New sync task")},
-    //: Choice of the wizard, second of two ways to set up the client (not the installer; noun).
     {"wizard_setup_advan_mode_title", QT_TRANSLATE_NOOP("global", "Advanced setup")},
     {"wizard_setup_advan_mode_desc", QT_TRANSLATE_NOOP("global", "Choose the folders, the sync direction, and the filters yourself.")},
     //: Button: closes the wizard's last page.
@@ -832,7 +781,7 @@ const Row kRows[kRowCount] = {
     {"wizard_ssl_verify_fail_sync_folder_warning", QT_TRANSLATE_NOOP("global", "The folder cannot be checked because the SSL certificate of the hub is not trusted.")},
     {"wizard_system_err_sync_folder_warning", QT_TRANSLATE_NOOP("global", "The folder cannot be checked because of a system error on the hub.")},
     // 430
-    //: Tab of the settings: syncing (noun).
+    //: Tab/Choice: the page of what is synced, and a filter of notifications (noun).
     {"manage_sync_tab_name", QT_TRANSLATE_NOOP("global", "Sync")},
     //: Choice, second of three: what happens when a file was changed on both sides.
     {"conflict_policy_overwrite_client", QT_TRANSLATE_NOOP("global", "Always keep the version on the hub")},
@@ -879,7 +828,7 @@ const Row kRows[kRowCount] = {
     {"wizard_welcome_mask_desc", QT_TRANSLATE_NOOP("global", "Tessaly keeps the files on your computers and on the hub identical.")},
     //: Fragment, unit after a number field: "Every [4] hours"; the number is mostly more than one.
     {"schedulebkp_run_freq_unit", QT_TRANSLATE_NOOP("global", "hours")},
-    //: Label in the wizard's summary: the hub's name.
+    //: Label beside the hub's name or the field for its address.
     {"wizard_summary_table_server", QT_TRANSLATE_NOOP("global", "Hub")},
     //: Button on the wizard's last page: opens the user's synced folder.
     {"quick_mode_open_folder_btn", QT_TRANSLATE_NOOP("global", "Open my folder")},
@@ -907,7 +856,6 @@ const Row kRows[kRowCount] = {
     {"err_auth", QT_TRANSLATE_NOOP("global", "The username or password is incorrect. Please sign in again.")},
     //: Tooltip of a field; "desktop.ini" is an example and stays; Enter is the key.
     {"block_file_name_tool_tip", QT_TRANSLATE_NOOP("global", "Enter a full file name, such as \"desktop.ini\", and press Enter.")},
-    //: Choice of the sync direction: from the hub to this computer alone, nothing is uploaded.
     {"one_way_download", QT_TRANSLATE_NOOP("global", "Download only")},
     // 470
     {"wizard_share_name_duplicate_warning", QT_TRANSLATE_NOOP("global", "A folder with this name already exists. Please choose another name.")},
@@ -918,7 +866,6 @@ const Row kRows[kRowCount] = {
     {"common_fieldblank", QT_TRANSLATE_NOOP("global", "This field cannot be left blank.")},
     //: Heading of a part of the page for a sharing link (verb: who may open the link).
     {"sharing_restrict", QT_TRANSLATE_NOOP("global", "Restrict access")},
-    //: Choice: a type of item in a filter or list (noun, singular).
     {"type_file", QT_TRANSLATE_NOOP("global", "File")},
     //: Check box of the general options.
     {"manage_option_enable_context_menu", QT_TRANSLATE_NOOP("global", "Show sync actions in the context menu of files and folders")},
@@ -934,7 +881,6 @@ const Row kRows[kRowCount] = {
     //: Label of a sharing link, before a date.
     {"sharing_enable_start_at", QT_TRANSLATE_NOOP("global", "Valid from")},
     {"wizard_client_upgrade", QT_TRANSLATE_NOOP("global", "The hub requires a newer version of the client. Do you want to update now?")},
-    //: Label of a range of dates, before the second field; "From" stands before the first.
     {"filter_to", QT_TRANSLATE_NOOP("global", "To")},
     {"wizard_remote_not_mounted", QT_TRANSLATE_NOOP("global", "The remote folder is on a volume that is not mounted.")},
     //: Screen reader: names a button.
@@ -973,7 +919,7 @@ const Row kRows[kRowCount] = {
     {"accessible_sync_log_category_combobox", QT_TRANSLATE_NOOP("global", "Choose a type of event")},
     //: Screen reader: %1 is the task's name.
     {"accessible_sync_task_session_description", QT_TRANSLATE_NOOP("global", "Sync task \"%1\"")},
-    //: Screen reader: names the side of a task on the hub.
+    //: Screen reader/Label: the side of a task on the hub.
     {"accessible_title_remote_destination", QT_TRANSLATE_NOOP("global", "Folder on the hub")},
     //: Screen reader: names a window.
     {"accessible_title_settings", QT_TRANSLATE_NOOP("global", "Settings window")},
@@ -1001,9 +947,8 @@ const Row kRows[kRowCount] = {
     //: Message: %1 is a file name.
     {"msg_download_fail_long", QT_TRANSLATE_NOOP("global", "\"%1\" could not be downloaded. Please try again later.")},
     {"wizard_auth_error_warning", QT_TRANSLATE_NOOP("global", "Signing in to the hub failed. Please check your username and password.")},
-    //: Button: opens the settings.
     {"btn_settings", QT_TRANSLATE_NOOP("global", "Settings")},
-    //: Heading of a page.
+    //: Heading/Tab: a page, and the tray's list of notifications.
     {"notification_page", QT_TRANSLATE_NOOP("global", "Notifications")},
     //: Fragment in a list of notifications, between a person's name and a file's: "Ann commented on Plan.txt".
     {"notification_page_action_comment", QT_TRANSLATE_NOOP("global", "commented on")},
@@ -1016,7 +961,6 @@ const Row kRows[kRowCount] = {
     {"tray_opendir", QT_TRANSLATE_NOOP("global", "Open synced folder")},
     //: Tooltip of a folder; %1 is a product name.
     {"read_only_tooltip_quay", QT_TRANSLATE_NOOP("global", "You only have read access to this folder. %1 will not upload your changes.")},
-    //: Column head of a list: the kind of file.
     {"col_file_type", QT_TRANSLATE_NOOP("global", "Type")},
     //: Message of the wizard's last page; %1 is a product name.
     {"wizard_finish_pairing_desc_quay", QT_TRANSLATE_NOOP("global", "%1 is now linked to the hub and will keep your files in sync.")},
@@ -1025,7 +969,6 @@ const Row kRows[kRowCount] = {
     {"desc_tsly_env_preparation_done_quay", QT_TRANSLATE_NOOP("global", "%1 is ready.")},
     //: Message in a box; %1 is a product name.
     {"msg_running_quay", QT_TRANSLATE_NOOP("global", "%1 is already running.")},
-    //: Label of a range of dates, before the first field; "To" stands before the second.
     {"filter_from", QT_TRANSLATE_NOOP("global", "From")},
     // 530
     //: Message of the wizard; %1 is a product name.
@@ -1034,7 +977,6 @@ const Row kRows[kRowCount] = {
     {"preview_commenter", QT_TRANSLATE_NOOP("global", "Preview and comment")},
     //: Message in a box; %1 is a product name.
     {"upgrade_failed_quay", QT_TRANSLATE_NOOP("global", "%1 could not be updated. Please try again later.")},
-    //: Label beside the field for a word to search for.
     {"filter_keyword", QT_TRANSLATE_NOOP("global", "Keyword")},
     {"NSIS_KELVANE_QUAY_INSTALLED_NEWER", QT_TRANSLATE_NOOP("global", "A newer version of Kelvane Quay Client is already installed. Setup will now exit.")},
     {"msg_ssl_change", QT_TRANSLATE_NOOP("global", "The SSL certificate of the hub has changed. If you did not expect this, please contact your administrator before you continue.")},
@@ -1058,7 +1000,7 @@ const Row kRows[kRowCount] = {
     {"err_proto_quay", QT_TRANSLATE_NOOP("global", "The hub and %1 cannot communicate. Please update both to the latest version.")},
     //: Message: %1 is a product name.
     {"err_version_client_quay", QT_TRANSLATE_NOOP("global", "This version of %1 is too old for the hub. Please update it.")},
-    //: Status, short: the versions of client and hub don't fit together.
+    //: Status, short, of a task too: the versions of client and hub don't fit together.
     {"err_version_short_quay", QT_TRANSLATE_NOOP("global", "Version mismatch")},
     //: Message: %1 is a product name.
     {"msg_diskfull_quay", QT_TRANSLATE_NOOP("global", "The disk is full. Free up some space on this computer so that %1 can continue.")},
@@ -1081,9 +1023,7 @@ const Row kRows[kRowCount] = {
     {"wizard_welcome_desc_quay", QT_TRANSLATE_NOOP("global", "Set up %1 to sync and back up the files on this computer.")},
     {"almost_done_quay_server", QT_TRANSLATE_NOOP("global", "Almost done! Your files will soon be available in Tessaly Server.")},
     {"almost_done_local", QT_TRANSLATE_NOOP("global", "Almost done! Your files will soon be available on this computer.")},
-    //: Button: begins a search (verb).
     {"filter_search", QT_TRANSLATE_NOOP("global", "Search")},
-    //: Choice of a list of periods.
     {"filter_yesterday", QT_TRANSLATE_NOOP("global", "Yesterday")},
     // 560
     {"msg_fail", QT_TRANSLATE_NOOP("global", "The operation failed. Please try again.")},
@@ -1106,7 +1046,6 @@ const Row kRows[kRowCount] = {
     //: Label beside a list of rights on a shared file.
     {"share_permission", QT_TRANSLATE_NOOP("global", "Sharing permission")},
     {"err_version_server", QT_TRANSLATE_NOOP("global", "Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.")},
-    //: Status, short: the versions of client and hub don't fit together.
     {"err_version_short", QT_TRANSLATE_NOOP("global", "Version mismatch")},
     //: Button: opens the tutorial.
     {"general_setting_show_tutorial", QT_TRANSLATE_NOOP("global", "Show the tutorial of Tessaly")},
@@ -1121,7 +1060,6 @@ const Row kRows[kRowCount] = {
     {"msg_running", QT_TRANSLATE_NOOP("global", "Tessaly is already running.")},
     {"quick_mode_end_msg", QT_TRANSLATE_NOOP("global", "Tessaly is set up. Open your folder to start working.")},
     {"read_only_tooltip", QT_TRANSLATE_NOOP("global", "You only have read access to this folder. Tessaly will not upload your changes.")},
-    //: Status, short, of a task: the versions of client and hub don't fit together.
     {"status_desc_version_short", QT_TRANSLATE_NOOP("global", "Version mismatch")},
     //: Menu item in the tray menu.
     {"title_open_tessaly", QT_TRANSLATE_NOOP("global", "Open Tessaly")},
@@ -1170,11 +1108,10 @@ const Row kRows[kRowCount] = {
     {"perm_na", QT_TRANSLATE_NOOP("global", "No access")},
     {"empty_share", QT_TRANSLATE_NOOP("global", "There are no shared folders.")},
     // 610
-    //: Menu item: fetches the file (verb).
+    //: Menu item/Button: fetches the file (verb).
     {"op_download", QT_TRANSLATE_NOOP("global", "Download")},
     {"err_public_sharing_disabled", QT_TRANSLATE_NOOP("global", "Public sharing is disabled on the hub.")},
     {"err_sharing_disabled_contact_admin", QT_TRANSLATE_NOOP("global", "Sharing is disabled. Please contact your administrator.")},
-    //: Event: what happened to the file named beside it (participle; the file was renamed).
     {"tray_rename", QT_TRANSLATE_NOOP("global", "Renamed")},
     //: Menu item: makes an older version of a file the current one (verb).
     {"op_restore", QT_TRANSLATE_NOOP("global", "Restore")},
@@ -1186,7 +1123,7 @@ const Row kRows[kRowCount] = {
     {"tray_share_grida", QT_TRANSLATE_NOOP("global", "%1 shared the Grida spreadsheet \"%2\" with you.")},
     //: Status: stands in place of an empty list.
     {"common_no_data", QT_TRANSLATE_NOOP("global", "No data")},
-    //: Button: opens the page on which an item is shared (verb).
+    //: Button/Menu item: opens the page on which an item is shared (verb).
     {"common_share", QT_TRANSLATE_NOOP("global", "Share")},
     // 620
     {"err_dir_file_not_exist", QT_TRANSLATE_NOOP("global", "The file or folder does not exist.")},
@@ -1203,7 +1140,6 @@ const Row kRows[kRowCount] = {
     {"display_tab", QT_TRANSLATE_NOOP("global", "Display")},
     //: Choice: who may open a sharing link.
     {"perm_public", QT_TRANSLATE_NOOP("global", "Anyone with the link")},
-    //: Button beside a value: another one is chosen (verb).
     {"btn_change", QT_TRANSLATE_NOOP("global", "Change")},
     //: Check box of a sharing link.
     {"enable_expiration", QT_TRANSLATE_NOOP("global", "Set an expiration date")},
@@ -1212,7 +1148,6 @@ const Row kRows[kRowCount] = {
     {"share_user_group", QT_TRANSLATE_NOOP("global", "Users and groups")},
     //: Name of a product; stays as it is.
     {"app_name_quay", QT_TRANSLATE_NOOP("global", "Kelvane Quay")},
-    //: Check box of the display settings.
     {"display_setting_bw_desc", QT_TRANSLATE_NOOP("global", "Use a black-and-white icon in the system tray")},
     //: Check box of the display settings.
     {"display_setting_local_folder_desc", QT_TRANSLATE_NOOP("global", "Show the synced folders in the sidebar of the file manager")},
@@ -1237,7 +1172,6 @@ const Row kRows[kRowCount] = {
     {"tray_share_file", QT_TRANSLATE_NOOP("global", "%1 shared the file \"%2\" with you.")},
     //: Fragment in a list of notifications, after a person's name and before a file's: "Ann shared with you Plan.txt".
     {"notification_page_action_shared", QT_TRANSLATE_NOOP("global", "shared with you")},
-    //: Choice of a filter of notifications: those about syncing (noun).
     {"notification_page_sync", QT_TRANSLATE_NOOP("global", "Sync")},
     //: Choice of a filter of notifications: those about files that were shared with the user.
     {"notification_page_shared", QT_TRANSLATE_NOOP("global", "Shared")},
@@ -1250,24 +1184,21 @@ const Row kRows[kRowCount] = {
     // 650
     //: Choice of a filter of notifications: someone wrote the user's name in a comment (noun, plural).
     {"notification_page_mentioned", QT_TRANSLATE_NOOP("global", "Mentions")},
-    //: Tab of the settings.
     {"notification_tab", QT_TRANSLATE_NOOP("global", "Notifications")},
     //: Choice of the sync direction: from this computer to the hub alone, nothing is downloaded.
     {"one_way_upload", QT_TRANSLATE_NOOP("global", "Upload only")},
-    //: Check box of a task's settings.
+    //: Check box of a task's settings and filters.
     {"dont_remove_server_when_local_remove", QT_TRANSLATE_NOOP("global", "Keep files on the hub when they are deleted from this computer")},
     //: Button: puts off what was offered.
     {"btn_later", QT_TRANSLATE_NOOP("global", "Later")},
     //: Message: %1 is a file name.
     {"tray_notification_download_finished", QT_TRANSLATE_NOOP("global", "\"%1\" has been downloaded.")},
-    //: Heading of the tray's list of notifications.
     {"tray_notification_title", QT_TRANSLATE_NOOP("global", "Notifications")},
     {"tray_synced_on_all_devices", QT_TRANSLATE_NOOP("global", "Your files are up to date on all your devices.")},
     //: Message: %1 is the address in the link; keep the tag as it is.
     {"tutorial_access_web_portal", QT_TRANSLATE_NOOP("global", "Your files are also available in the <a href=\"%1\">web portal</a>.")},
     {"tutorial_congrats", QT_TRANSLATE_NOOP("global", "Congratulations!")},
     // 660
-    //: Label beside a field.
     {"connection_username", QT_TRANSLATE_NOOP("global", "Username")},
     {"tutorial_congrats_sub", QT_TRANSLATE_NOOP("global", "You are ready to work with Tessaly.")},
     //: Choice of the wizard, second of two: files that others share with the user.
@@ -1312,7 +1243,6 @@ const Row kRows[kRowCount] = {
     {"tray_share_folia", QT_TRANSLATE_NOOP("global", "%1 shared the Folia document \"%2\" with you.")},
     //: Message: %1 is a person's name, %2 the file's.
     {"tray_share_pictra", QT_TRANSLATE_NOOP("global", "%1 shared the Pictra presentation \"%2\" with you.")},
-    //: Status: state of a file before its transfer.
     {"main_queue_preparing", QT_TRANSLATE_NOOP("global", "Preparing...")},
     //: Heading of a page: who may see what.
     {"privacy_setting", QT_TRANSLATE_NOOP("global", "Privacy settings")},
@@ -1320,20 +1250,16 @@ const Row kRows[kRowCount] = {
     {"enable_password", QT_TRANSLATE_NOOP("global", "Protect with a password")},
     //: Choice of a list of days on which a backup runs: Monday to Friday.
     {"schedulebkp_weekdays", QT_TRANSLATE_NOOP("global", "Weekdays")},
-    //: Button: interrupts all tasks for a while (verb).
     {"btn_pause", QT_TRANSLATE_NOOP("global", "Pause")},
     // 690
     //: Message: %1 is the folder's name.
     {"wizard_create_shared_with_me_folder", QT_TRANSLATE_NOOP("global", "A folder named \"%1\" will be created for the files that others share with you.")},
-    //: Label below a picture of a tutorial page: a menu item of the file manager.
+    //: Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.
     {"tutorial_ver2_p2_pic_pin", QT_TRANSLATE_NOOP("global", "Always keep on this computer")},
     //: Choice of a filter: no type is left out (belongs to "type").
     {"type_any", QT_TRANSLATE_NOOP("global", "Any")},
-    //: Button: goes on with all tasks after a pause (verb).
     {"btn_resume", QT_TRANSLATE_NOOP("global", "Resume")},
-    //: Label beside a field.
     {"connection_password", QT_TRANSLATE_NOOP("global", "Password")},
-    //: Status of a task.
     {"main_status_error", QT_TRANSLATE_NOOP("global", "Error")},
     //: Column head of the list of files that are being transferred (noun).
     {"main_queue_column_progress", QT_TRANSLATE_NOOP("global", "Progress")},
@@ -1359,7 +1285,6 @@ const Row kRows[kRowCount] = {
     {"backup_welcome_desc", QT_TRANSLATE_NOOP("global", "Protect the files on this computer by backing them up to the hub.")},
     //: Message of a choice; what stands before the colon is its name.
     {"backup_task_mode_manual_info", QT_TRANSLATE_NOOP("global", "Manual: the backup runs only when you start it.")},
-    //: Menu item: makes a link (URL) to the file and copies it.
     {"get_file_link", QT_TRANSLATE_NOOP("global", "Get link")},
     //: Label beside a field for a time of day: when a backup starts (noun).
     {"schedulebkp_backup_schedule_start_time", QT_TRANSLATE_NOOP("global", "Start time")},
@@ -1382,7 +1307,6 @@ const Row kRows[kRowCount] = {
     {"backup_task_mode_continuous_info", QT_TRANSLATE_NOOP("global", "Continuous: files are backed up whenever they change.")},
     //: Menu item: opens the folder in the system's program for files.
     {"btn_open_explorer", QT_TRANSLATE_NOOP("global", "Open in file manager")},
-    //: Menu item: takes away someone's right on a shared file (verb).
     {"perm_delete", QT_TRANSLATE_NOOP("global", "Remove")},
     // 720
     //: Message below an end time that is earlier in the day than the start time.
@@ -1415,9 +1339,7 @@ const Row kRows[kRowCount] = {
     {"backup_chooser_no_folder_selected", QT_TRANSLATE_NOOP("global", "Please select at least one folder to back up.")},
     //: Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.
     {"main_backup_information_desc", QT_TRANSLATE_NOOP("global", "%1 files (%2) backed up to \"%3\" on %4")},
-    //: Status of a task: the task was paused.
     {"main_status_pause", QT_TRANSLATE_NOOP("global", "Paused")},
-    //: Label in the wizard's summary.
     {"wizard_summary_table_remote_title", QT_TRANSLATE_NOOP("global", "Folder on the hub")},
     //: Heading of the page with what was transferred (noun).
     {"history_page_title", QT_TRANSLATE_NOOP("global", "History")},
@@ -1429,7 +1351,6 @@ const Row kRows[kRowCount] = {
     {"folder_chooser_not_select_desc", QT_TRANSLATE_NOOP("global", "No folder selected")},
     //: Menu item of the file manager: the files stay on the hub alone, so that they take no space here.
     {"context_menu_dehydrate", QT_TRANSLATE_NOOP("global", "Free up space")},
-    //: Menu item of the file manager: the files are downloaded and stay.
     {"context_menu_pin_to_local", QT_TRANSLATE_NOOP("global", "Always keep on this computer")},
     //: Menu item of the file manager: the opposite of "Always keep on this computer".
     {"context_menu_unpin", QT_TRANSLATE_NOOP("global", "Stop keeping on this computer")},
@@ -1440,7 +1361,6 @@ const Row kRows[kRowCount] = {
     //: Message: %1 is the computer's name.
     {"treedialog_pcname_desc", QT_TRANSLATE_NOOP("global", "Select a folder on \"%1\".")},
     {"treedialog_server_desc", QT_TRANSLATE_NOOP("global", "Select a folder on the hub.")},
-    //: Label beside a field: files above this size are not synced.
     {"setting_filter_max_size", QT_TRANSLATE_NOOP("global", "Maximum file size")},
     // 750
     //: Fragment before a number field and its unit: "Every [4] hours".
@@ -1491,7 +1411,6 @@ const Row kRows[kRowCount] = {
     {"setup_choose_task_type", QT_TRANSLATE_NOOP("global", "Choose a type of task")},
     {"setup_select_task_sync_desc", QT_TRANSLATE_NOOP("global", "Work with the same files on all your computers.")},
     {"setup_select_task_backup_desc", QT_TRANSLATE_NOOP("global", "Keep a safe copy of your files on the hub.")},
-    //: Heading of a wizard page (verb).
     {"setup_connect_to_nas", QT_TRANSLATE_NOOP("global", "Connect to the hub")},
     {"bkp_wizard_connection_setting_desc", QT_TRANSLATE_NOOP("global", "Sign in to the hub that will store your backups.")},
     //: Heading of a wizard page (verb).
@@ -1517,20 +1436,18 @@ const Row kRows[kRowCount] = {
     {"bkp_title_quotafull", QT_TRANSLATE_NOOP("global", "Storage quota used up")},
     //: Heading of the state of a task: the hub offers no home folders.
     {"bkp_title_err_user_home_disabled", QT_TRANSLATE_NOOP("global", "Home folder disabled")},
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_mon", QT_TRANSLATE_NOOP("global", "Mon")},
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_thur", QT_TRANSLATE_NOOP("global", "Thu")},
     // 800
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_sat", QT_TRANSLATE_NOOP("global", "Sat")},
-    //: Message of a task; the service gives each user a home folder.
     {"bkp_desc_err_user_home_disabled", QT_TRANSLATE_NOOP("global", "The user home service is disabled on the hub. Please contact your administrator.")},
     //: Heading of the state of a task.
     {"bkp_title_local_folder_miss", QT_TRANSLATE_NOOP("global", "Local folder not found")},
     {"bkp_desc_err_init_failed", QT_TRANSLATE_NOOP("global", "The task could not be started. Please restart the application.")},
     {"bkp_desc_err_share_not_mounted", QT_TRANSLATE_NOOP("global", "The shared folder of this task is not mounted on the hub. Please contact your administrator.")},
-    //: Heading of the state of a task.
     {"bkp_title_err_share_perm", QT_TRANSLATE_NOOP("global", "Permission denied")},
     {"bkp_desc_err_share_perm", QT_TRANSLATE_NOOP("global", "You no longer have permission to access the shared folder of this task.")},
     //: Heading of the state of a task: a disk drive of this computer.
@@ -1539,15 +1456,15 @@ const Row kRows[kRowCount] = {
     {"almost_done_quay_server_quay", QT_TRANSLATE_NOOP("global", "Almost done! Your files will soon be available in %1.")},
     {"setting_filter_zero_desc", QT_TRANSLATE_NOOP("global", "Enter 0 to set no limit.")},
     // 810
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_fri", QT_TRANSLATE_NOOP("global", "Fri")},
     //: Column head of the list of people that an item is shared with: Viewer, Editor and so on.
     {"role", QT_TRANSLATE_NOOP("global", "Role")},
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_sun", QT_TRANSLATE_NOOP("global", "Sun")},
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_tues", QT_TRANSLATE_NOOP("global", "Tue")},
-    //: Label: a day of the week, in a narrow row.
+    //: Day in a narrow row: a day of the week.
     {"bkp_summary_wed", QT_TRANSLATE_NOOP("global", "Wed")},
     //: Choice: a day of the week.
     {"friday", QT_TRANSLATE_NOOP("global", "Friday")},
@@ -1570,14 +1487,10 @@ const Row kRows[kRowCount] = {
     {"bkp_title_diskfull", QT_TRANSLATE_NOOP("global", "Disk full")},
     //: Heading of the state of a task.
     {"bkp_title_err_init_failed", QT_TRANSLATE_NOOP("global", "Initialization failed")},
-    //: Button: fetches the file (verb).
     {"download", QT_TRANSLATE_NOOP("global", "Download")},
-    //: Message of a task; the direction is upload only, download only or two-way.
     {"bkp_desc_err_sync_direction_mismatch", QT_TRANSLATE_NOOP("global", "The sync direction does not match your permissions on the remote folder.")},
-    //: Message of a task; a disk drive of this computer.
     {"bkp_desc_err_syncfolder_not_mounted", QT_TRANSLATE_NOOP("global", "The drive that holds the local folder is not connected.")},
     {"bkp_desc_local_folder_miss", QT_TRANSLATE_NOOP("global", "The local folder may have been moved, renamed, or deleted.")},
-    //: Choice of the list of languages: the one of the system.
     {"setting_option_language_default", QT_TRANSLATE_NOOP("global", "System default")},
     // 830
     //: Heading of the state of a task.
@@ -1585,12 +1498,10 @@ const Row kRows[kRowCount] = {
     {"bkp_desc_msg_share_quotafull", QT_TRANSLATE_NOOP("global", "The quota of the shared folder is used up. Please contact your administrator.")},
     //: Heading of the state of a task.
     {"bkp_title_remote_folder_nonexist", QT_TRANSLATE_NOOP("global", "Remote folder not found")},
-    //: Message of a task.
     {"bkp_desc_quotafull", QT_TRANSLATE_NOOP("global", "Your storage quota on the hub is used up. Please free up some space and try again.")},
     {"bkp_desc_remote_folder_nonexist", QT_TRANSLATE_NOOP("global", "The remote folder may have been moved, renamed, or deleted.")},
     //: Label beside a list: what people with the link (URL) may do.
     {"share_link_perm", QT_TRANSLATE_NOOP("global", "Link permission")},
-    //: Button: takes over the changes (verb).
     {"btn_apply", QT_TRANSLATE_NOOP("global", "Apply")},
     //: Status of a task; %1 is a date and time.
     {"schedulebkp_next_backup_time", QT_TRANSLATE_NOOP("global", "Next backup: %1")},
@@ -1617,15 +1528,12 @@ const Row kRows[kRowCount] = {
     //: Status, shown while this computer is being linked to the hub.
     {"status_desc_linking", QT_TRANSLATE_NOOP("global", "Linking to the hub...")},
     {"status_desc_uptodate", QT_TRANSLATE_NOOP("global", "All files are up to date.")},
-    //: Label beside the field for the hub's address.
     {"connection_server", QT_TRANSLATE_NOOP("global", "Hub")},
-    //: Label beside a field of a sharing link.
     {"password_field_title", QT_TRANSLATE_NOOP("global", "Password")},
     //: Choice: a right on a shared file, or the command: look at it without downloading it.
     {"preview", QT_TRANSLATE_NOOP("global", "Preview")},
-    //: Status of a task (adjective; belongs to "task").
+    //: Status of a task and of the client in the tray (adjective).
     {"main_status_uptodate", QT_TRANSLATE_NOOP("global", "Up to date")},
-    //: Name of a product; stays as it is.
     {"sol_name_quay", QT_TRANSLATE_NOOP("global", "Kelvane Quay")},
     //: Label above a field with a URL to a folder (noun).
     {"directory_link", QT_TRANSLATE_NOOP("global", "Folder link")},
@@ -1664,7 +1572,6 @@ const Row kRows[kRowCount] = {
     {"accessible_tutorial_1_quay", QT_TRANSLATE_NOOP("global", "Tutorial page 1: welcome to %1")},
     //: Column head of a list: sync or backup (noun).
     {"create_task_type", QT_TRANSLATE_NOOP("global", "Task type")},
-    //: Menu item: opens the page on which an item is shared (verb).
     {"share", QT_TRANSLATE_NOOP("global", "Share")},
     //: Button: takes what was chosen in a list (verb).
     {"btn_select", QT_TRANSLATE_NOOP("global", "Select")},
@@ -1690,9 +1597,9 @@ const Row kRows[kRowCount] = {
     //: Button: changes an entry (verb); also a right on a shared file.
     {"edit", QT_TRANSLATE_NOOP("global", "Edit")},
     // 890
-    //: Event: what happened to the file: it stays on the hub alone (the space was freed up).
+    //: Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).
     {"tray_dehydrate", QT_TRANSLATE_NOOP("global", "Space freed up")},
-    //: Event: what happened to the file: it was downloaded and stays.
+    //: Event: what happened to the file, in the history too: it was downloaded and stays.
     {"tray_populated", QT_TRANSLATE_NOOP("global", "Made available on this computer")},
     {"wizard_warning_invalid_on_demand_sync_path", QT_TRANSLATE_NOOP("global", "On-demand sync requires a folder on an NTFS drive that is not a network or removable drive.")},
     //: Message: the link is to be kept as it is.
@@ -1704,10 +1611,8 @@ const Row kRows[kRowCount] = {
     {"wizard_shared_with_me_desc", QT_TRANSLATE_NOOP("global", "Sync the files that others share with you, so that you can open them like your own.")},
     //: Check box of the wizard.
     {"wizard_file_streaming_promotion_checkbox", QT_TRANSLATE_NOOP("global", "Enable on-demand sync for this task")},
-    //: Check box of a task's filters (period: the sign "." before a name).
     {"block_point_prefix", QT_TRANSLATE_NOOP("global", "Skip files and folders whose names start with a period")},
     // 900
-    //: Label of a filter, beside two dates.
     {"filter_date_range", QT_TRANSLATE_NOOP("global", "Date range")},
     {"backup_err_user_privilege", QT_TRANSLATE_NOOP("global", "The backup has stopped because your account is not allowed to use the package on the hub.")},
     {"create_sync_task_shared_with_me_desc", QT_TRANSLATE_NOOP("global", "Sync the files and folders that other users share with you.")},
@@ -1722,7 +1627,6 @@ const Row kRows[kRowCount] = {
     //: Message: %1 is a product name.
     {"err_proto_quay_diffname", QT_TRANSLATE_NOOP("global", "%1 cannot communicate with the package on the hub. Please update both to the latest version.")},
     // 910
-    //: Label beside the field for the proxy server's user.
     {"manage_proxy_label_username", QT_TRANSLATE_NOOP("global", "Username")},
     //: Choice: who may open a sharing link (a sentence without a full stop).
     {"perm_limit_only_you_desc", QT_TRANSLATE_NOOP("global", "Only you can open the link")},
@@ -1732,17 +1636,13 @@ const Row kRows[kRowCount] = {
     {"tutorial_fourth_desc", QT_TRANSLATE_NOOP("global", "Share a file with a link. You decide who can view or edit it.")},
     //: Button on the first page of the tutorial.
     {"tutorial_start_tour", QT_TRANSLATE_NOOP("global", "Start the tour")},
-    //: Event in the history: the file stays on the hub alone (the space was freed up).
     {"history_placeholder_dehydrate", QT_TRANSLATE_NOOP("global", "Space freed up")},
-    //: Event in the history: the file was downloaded and stays.
     {"history_placeholder_available", QT_TRANSLATE_NOOP("global", "Made available on this computer")},
     //: Message: %1 is a product name; keep the link as it is.
     {"wizard_welcome_footer_info_quay", QT_TRANSLATE_NOOP("global", "New to %1? Read the <a href=\"https://help.kelvane.example/quay/start\">quick start guide</a> first.")},
     {"err_user_name_empty", QT_TRANSLATE_NOOP("global", "Please enter your username.")},
     // 920
-    //: Label beside a list: two-way sync, upload only, download only (the way in which is synced).
     {"manage_option_synchronization_mode", QT_TRANSLATE_NOOP("global", "Sync mode")},
-    //: Check box of a task's filters.
     {"setting_filter_ignore_local_delete", QT_TRANSLATE_NOOP("global", "Keep files on the hub when they are deleted from this computer")},
     {"confirm_all_files_being_download", QT_TRANSLATE_NOOP("global", "All files of this task will be downloaded to this computer. Do you want to continue?")},
     //: Heading of the first page of the tutorial.
@@ -1771,10 +1671,8 @@ const Row kRows[kRowCount] = {
     {"backup_chooser_desc", QT_TRANSLATE_NOOP("global", "Choose the folders to back up and where to store the backups.")},
     //: Heading of a wizard page (verb).
     {"backup_chooser_choose_source", QT_TRANSLATE_NOOP("global", "Choose what to back up")},
-    //: Check box of the connection settings.
     {"connection_ssl", QT_TRANSLATE_NOOP("global", "Encrypt data transmission with SSL")},
     // 940
-    //: Heading of a wizard page: the folders that are synced (noun).
     {"wizard_setsyncfolder_title", QT_TRANSLATE_NOOP("global", "Sync folders")},
     {"backup_err_user_not_allowed", QT_TRANSLATE_NOOP("global", "The backup has stopped because your account has been disabled on the hub.")},
     //: Status of a task.
@@ -1785,11 +1683,8 @@ const Row kRows[kRowCount] = {
     {"err_user_not_allowed_short", QT_TRANSLATE_NOOP("global", "Account disabled")},
     //: Check box of the general options.
     {"manage_option_show_filtered_icons", QT_TRANSLATE_NOOP("global", "Show icons on files that are excluded by a filter")},
-    //: Choice: who may open a sharing link, and what they may do (a sentence without a full stop).
     {"public_rw_desc", QT_TRANSLATE_NOOP("global", "Anyone with the link can edit")},
-    //: Choice: who may open a sharing link, and what they may do (a sentence without a full stop).
     {"public_ro_desc", QT_TRANSLATE_NOOP("global", "Anyone with the link can view")},
-    //: Choice: who may open a sharing link, and what they may do (a sentence without a full stop).
     {"public_commenter_desc", QT_TRANSLATE_NOOP("global", "Anyone with the link can comment")},
     // 950
     //: Tab of the hub's page: space and quotas.
@@ -1797,33 +1692,25 @@ const Row kRows[kRowCount] = {
     //: Screen reader: names a window that asks.
     {"accessible_dialogue", QT_TRANSLATE_NOOP("global", "Dialog box")},
     {"connection_unlink_confirm", QT_TRANSLATE_NOOP("global", "All tasks with this hub will be removed from this computer. The files will be kept. Do you want to continue?")},
-    //: Status, shown while this computer's link to the hub is being ended.
     {"connection_unlinking", QT_TRANSLATE_NOOP("global", "Unlinking...")},
-    //: Status, short, of a task: an unexpected error.
     {"err_abnormal", QT_TRANSLATE_NOOP("global", "Something went wrong")},
     {"err_backup_fail", QT_TRANSLATE_NOOP("global", "The backup failed. Please try again.")},
     {"err_create_session_fail", QT_TRANSLATE_NOOP("global", "The task could not be created. Please try again.")},
-    //: Message of a task.
     {"err_quotafull", QT_TRANSLATE_NOOP("global", "Your storage quota on the hub is used up. Please free up some space and try again.")},
     //: Message: %1 is the folder's name.
     {"err_share_perm", QT_TRANSLATE_NOOP("global", "You no longer have permission to access the shared folder \"%1\".")},
-    //: Message of a task; the direction is upload only, download only or two-way.
     {"err_sync_direction_mismatch", QT_TRANSLATE_NOOP("global", "The sync direction does not match your permissions on the remote folder.")},
     // 960
-    //: Choice of a list of periods: the calendar month before this one.
     {"filter_last_month", QT_TRANSLATE_NOOP("global", "Last month")},
-    //: Choice of a list of periods: the calendar week before this one.
     {"filter_last_week", QT_TRANSLATE_NOOP("global", "Last week")},
     //: Status of a task; %1 is a file name.
     {"main_desc_processing_file", QT_TRANSLATE_NOOP("global", "Processing \"%1\"...")},
     //: Choice: a unit of time in a list, beside a field for the number (plural).
     {"timescale_day", QT_TRANSLATE_NOOP("global", "Days")},
     {"msg_fail_load_session", QT_TRANSLATE_NOOP("global", "The task could not be loaded.")},
-    //: Status: stands in place of a list that is on its way.
     {"msg_loading", QT_TRANSLATE_NOOP("global", "Loading...")},
     //: Column head of a list: what can be done with an entry (noun).
     {"op_operation", QT_TRANSLATE_NOOP("global", "Operation")},
-    //: Button: opens the settings.
     {"settings", QT_TRANSLATE_NOOP("global", "Settings")},
     //: Message: %1 is a path.
     {"msg_no_such_directory", QT_TRANSLATE_NOOP("global", "The folder \"%1\" does not exist.")},
@@ -1837,7 +1724,7 @@ const Row kRows[kRowCount] = {
     {"schedulebkp_backup_times", QT_TRANSLATE_NOOP("global", "Back up %1 times a day")},
     //: Fragment, unit after a number field: "[3] times", a day.
     {"schedulebkp_backup_times_unit", QT_TRANSLATE_NOOP("global", "times")},
-    //: Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
+    //: Heading/Label: continuous, scheduled or manual (the way in which is backed up).
     {"schedulebkp_choose_backup_mode_title", QT_TRANSLATE_NOOP("global", "Backup mode")},
     {"schedulebkp_confirm_backup_now", QT_TRANSLATE_NOOP("global", "Do you want to start the backup now?")},
     {"schedulebkp_do_missing_backup_tooltip", QT_TRANSLATE_NOOP("global", "If this computer is turned off or asleep at the scheduled time, the backup starts as soon as it is running again.")},
@@ -1862,10 +1749,9 @@ const Row kRows[kRowCount] = {
     {"schedulebkp_update_backupplaninfo_fail", QT_TRANSLATE_NOOP("global", "The backup plan could not be saved. Please try again.")},
     //: Tooltip of a field; %1 is a number.
     {"setting_filter_size_limit_tooltip", QT_TRANSLATE_NOOP("global", "Enter a size from 0 to %1 MB. Enter 0 to set no limit.")},
-    //: Heading of the table of files that are not synced.
     {"setting_filter_table_title", QT_TRANSLATE_NOOP("global", "Excluded files")},
     // 990
-    //: Tab of the settings: the connection to the hub.
+    //: Tab/Heading: the connection to the hub.
     {"setting_tab_connection", QT_TRANSLATE_NOOP("global", "Connection")},
     //: Tooltip of a button.
     {"tooltip_activity", QT_TRANSLATE_NOOP("global", "Show the activity of this task")},
@@ -1881,9 +1767,7 @@ const Row kRows[kRowCount] = {
     {"used_of_quota", QT_TRANSLATE_NOOP("global", "%1 of %2 used")},
     //: Label beside a task that runs without a window.
     {"background_task", QT_TRANSLATE_NOOP("global", "Background task")},
-    //: Menu item in the tray menu: interrupts all tasks for a while (verb).
     {"tray_pause", QT_TRANSLATE_NOOP("global", "Pause")},
-    //: Menu item in the tray menu: goes on with all tasks after a pause (verb).
     {"tray_resume", QT_TRANSLATE_NOOP("global", "Resume")},
     // 1000
     //: Screen reader: names a window.
@@ -1901,16 +1785,13 @@ const Row kRows[kRowCount] = {
     {"col_create_time", QT_TRANSLATE_NOOP("global", "Created on")},
     //: Tab of the main window (plural).
     {"main_backup_task", QT_TRANSLATE_NOOP("global", "Backup tasks")},
-    //: Tab of the main window.
     {"main_settings", QT_TRANSLATE_NOOP("global", "Settings")},
-    //: Menu item: opens the list of older versions of the file.
     {"op_version_browse", QT_TRANSLATE_NOOP("global", "Browse previous versions")},
     // 1010
     //: Tab of the main window (plural).
     {"main_sync_task", QT_TRANSLATE_NOOP("global", "Sync tasks")},
     //: Tab of a task's settings: which files are left out (plural).
     {"setting_tab_filter", QT_TRANSLATE_NOOP("global", "Filters")},
-    //: Label beside a list: continuous, scheduled or manual (the way in which is backed up).
     {"schedulebkp_backup_mode", QT_TRANSLATE_NOOP("global", "Backup mode")},
     //: Heading of the list of files that were changed lately (plural).
     {"recently_changed_title", QT_TRANSLATE_NOOP("global", "Recently changed")},
@@ -1918,11 +1799,8 @@ const Row kRows[kRowCount] = {
     {"schedulebkp_backup_now", QT_TRANSLATE_NOOP("global", "Back up now")},
     //: Heading of the part of a page with the files to sync (noun, plural).
     {"selective_sync_file_title", QT_TRANSLATE_NOOP("global", "Files")},
-    //: Heading of a page: two-way sync, upload only, download only (the way in which is synced).
     {"selective_sync_mode_title", QT_TRANSLATE_NOOP("global", "Sync mode")},
-    //: Button: opens the choice of the folders and files that are synced.
     {"session_selective_sync_btn", QT_TRANSLATE_NOOP("global", "Selective sync")},
-    //: Tab of a task's settings: the two folders.
     {"setting_tab_folder", QT_TRANSLATE_NOOP("global", "Folder")},
     //: Choice of a filter: before a size; belongs to "size".
     {"size_equal", QT_TRANSLATE_NOOP("global", "Equal to")},
@@ -1931,7 +1809,6 @@ const Row kRows[kRowCount] = {
     {"size_less", QT_TRANSLATE_NOOP("global", "Less than")},
     //: Choice of a filter: before a size; belongs to "size".
     {"size_greater", QT_TRANSLATE_NOOP("global", "Greater than")},
-    //: Status in the tray (adjective; belongs to "client" and its files).
     {"tray_uptodate", QT_TRANSLATE_NOOP("global", "Up to date")},
     //: Heading of the box in which a folder is chosen (verb).
     {"treedialog_pc_title", QT_TRANSLATE_NOOP("global", "Select a folder on this computer")},
@@ -1940,7 +1817,6 @@ const Row kRows[kRowCount] = {
     {"wizard_conflict_backup_warning_quay_backup", QT_TRANSLATE_NOOP("global", "This folder is already synced by Kelvane Quay Client and cannot be backed up as well. Please choose another folder.")},
     //: Label beside the hub's address in the network.
     {"title_ip", QT_TRANSLATE_NOOP("global", "IP address")},
-    //: Column head of the list of shared folders: where each is on this computer.
     {"manage_share_local_syncfolder", QT_TRANSLATE_NOOP("global", "Local folder")},
     //: Fragment in a list of notifications, between a person's name and a file's: "Ann replied to your comment on
     //: Plan.txt".
@@ -1977,11 +1853,9 @@ const Row kRows[kRowCount] = {
     {"remove_link_confirm_title", QT_TRANSLATE_NOOP("global", "Remove this link?")},
     //: Message: "logs" are the records of what the client did; no relation to locks.
     {"export_log_desc", QT_TRANSLATE_NOOP("global", "Save the logs of the client to a file that you can send to technical support.")},
-    //: Message above the rules of a task's filter.
     {"sync_file_filter_rule_desc", QT_TRANSLATE_NOOP("global", "Files and folders that match these rules will not be synced.")},
     //: Hint in an empty field.
     {"filter_placeholder_text", QT_TRANSLATE_NOOP("global", "Enter a keyword")},
-    //: Message below the question whether to remove the link (URL).
     {"remove_link_warn_desc", QT_TRANSLATE_NOOP("global", "People who have the link will no longer be able to open the file.")},
     //: Button: takes a link (URL) away (verb).
     {"remove_link_title", QT_TRANSLATE_NOOP("global", "Remove link")},
@@ -2021,11 +1895,10 @@ const Row kRows[kRowCount] = {
     {"err_abnormal_desc", QT_TRANSLATE_NOOP("global", "The task has stopped because of an unexpected error. Please restart the application.")},
     {"error_zero_version", QT_TRANSLATE_NOOP("global", "This file has no previous versions.")},
     {"wizard_enable_on_demand_sync_failed", QT_TRANSLATE_NOOP("global", "On-demand sync could not be enabled for this task.")},
-    //: Heading of a page: the connection to the hub.
     {"connection", QT_TRANSLATE_NOOP("global", "Connection")},
     {"err_connection_failed_information", QT_TRANSLATE_NOOP("global", "The connection to the hub failed. Please check the address and your network.")},
     // 1070
-    //: Fragment: stands between a label and its value, without blanks of its own: "Hub: Office".
+    //: Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.
     {"colon", QT_TRANSLATE_NOOP("global", ":")},
     //: Event in the history (noun and participle).
     {"file_add", QT_TRANSLATE_NOOP("global", "File added")},
@@ -2035,8 +1908,6 @@ const Row kRows[kRowCount] = {
     //: Message: the home folder is the user's, not the hub's.
     {"notification_can_index_entire_home", QT_TRANSLATE_NOOP("global", "The hub is now able to index your entire home folder.")},
     {"notification_can_sync_entire_home", QT_TRANSLATE_NOOP("global", "You can now sync your entire home folder with this computer.")},
-    //: Choice of the sync direction: changes are downloaded and never uploaded ("only" goes with "download"); %1 is a
-    //: product name.
     {"one_way_sync_download_from_server_quay", QT_TRANSLATE_NOOP("global", "Only download changes from %1")},
     //: Status of a file: another program has it open (participle; belongs to "file").
     {"label_locked_file", QT_TRANSLATE_NOOP("global", "Locked")},

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>已刪除</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>取消配對</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>透過 Ferrylink 連線</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>錯誤</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>完成</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>本機資料夾</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>已下載</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>確定</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>取消</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>下一步</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>上一步</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>已上傳</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>自訂</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>時間</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>您在中樞上的儲存空間配額已用完。請釋放一些空間，然後再試一次。</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>設定</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>共用資料夾</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>密碼</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>狀態</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>套用</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>管理</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>發生問題</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>在系統匣中使用黑白圖示</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>資料夾</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>移除</translation>
     </message>
     <message>
@@ -631,13 +561,11 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     <message>
         <source>Destination</source>
         <extracomment>Column head of the list of files: the folder that a file goes to.</extracomment>
-        <translation>目的地</translation>
+        <translation>目標位置</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>正在準備...</translation>
     </message>
     <message>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>同步模式</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>已暫停</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>權限不足</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>取得連結</translation>
     </message>
     <message>
@@ -827,25 +745,13 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>暫停</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
-        <translation>繼續</translation>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
+        <translation>恢復</translation>
     </message>
     <message>
         <source>Exclusion rules</source>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>動作</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>檔案名稱</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>大小</translation>
     </message>
     <message>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>不關閉應用程式。稍後必須重新啟動電腦。</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>瀏覽先前的版本</translation>
     </message>
     <message>
@@ -1089,7 +987,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>使用此精靈可變更、修復或移除 [ProductName]。按一下「下一步」繼續，或按一下「取消」結束安裝程式。</translation>
+        <translation>使用此精靈可變更、修復或移除 [ProductName]。按一下「下一步」繼續，或按一下「取消」離開安裝程式。</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>下列應用程式開啟了 [ProductName] 安裝程式需要取代的檔案：</translation>
     </message>
     <message>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>修復</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>是</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>立即關閉應用程式，並在安裝完成後重新開啟。</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>變更</translation>
     </message>
     <message>
@@ -1232,17 +1124,17 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>按一下「修復」開始，按一下「上一步」選擇其他動作，或按一下「取消」結束安裝程式。</translation>
+        <translation>按一下「修復」開始，按一下「上一步」選擇其他動作，或按一下「取消」離開安裝程式。</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>您在 [ProductName] 安裝完成前結束了安裝程式。您的電腦未做任何變更。您可以隨時重新執行安裝程式。</translation>
+        <translation>您在 [ProductName] 安裝完成前離開了安裝程式。您的電腦未做任何變更。您可以隨時重新執行安裝程式。</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>此精靈會在您的電腦上安裝 [ProductName]。按一下「下一步」繼續，或按一下「取消」結束安裝程式。</translation>
+        <translation>此精靈會在您的電腦上安裝 [ProductName]。按一下「下一步」繼續，或按一下「取消」離開安裝程式。</translation>
     </message>
     <message>
         <source>From</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>昨天</translation>
     </message>
     <message>
@@ -1443,9 +1333,7 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>已重新命名</translation>
     </message>
     <message>
@@ -1465,9 +1353,7 @@ Event: what happened to the file named beside it (participle; the file was renam
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>檔案</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>類型</translation>
     </message>
     <message>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>進階設定精靈</translation>
     </message>
     <message>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>使用者名稱</translation>
     </message>
     <message>
@@ -1797,7 +1677,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>The IP address of this computer is blocked by the hub. Please contact your administrator.</source>
-        <translation>中樞已封鎖這部電腦的 IP 位址。請聯絡您的管理員。</translation>
+        <translation>這部電腦的 IP 位址已遭中樞封鎖。請聯絡您的管理員。</translation>
     </message>
     <message>
         <source>When a file was changed on both sides:</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>同步</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>中樞</translation>
     </message>
     <message>
@@ -2224,7 +2100,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Previous month</source>
         <extracomment>Screen reader: names a button of a calendar.</extracomment>
-        <translation>上個月</translation>
+        <translation>上一個月</translation>
     </message>
     <message>
         <source>Enter a keyword to search the history</source>
@@ -2244,7 +2120,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Next month</source>
         <extracomment>Screen reader: names a button of a calendar.</extracomment>
-        <translation>下個月</translation>
+        <translation>下一個月</translation>
     </message>
     <message>
         <source>Choose a type of event</source>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>中樞上的資料夾</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>通知</translation>
     </message>
     <message>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>版本不符</translation>
     </message>
     <message>
@@ -2485,7 +2353,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>僅從 %1 下載變更</translation>
+        <translation>從 %1 單向下載變更</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>下載</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>共用</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>從這部電腦中刪除檔案時，保留中樞上的檔案</translation>
     </message>
     <message>
@@ -3010,7 +2872,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>僅從 Tessaly Server 下載變更</translation>
+        <translation>從 Tessaly Server 單向下載變更</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>一律保留在這部電腦上</translation>
     </message>
     <message>
@@ -3217,7 +3077,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup destination</source>
         <extracomment>Label beside the path of the folder on the hub that backups are stored in (a place, not a purpose).</extracomment>
-        <translation>備份目的地</translation>
+        <translation>備份目標位置</translation>
     </message>
     <message>
         <source>Files are backed up when you click Back up now.</source>
@@ -3404,7 +3264,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Choose the days and times at which the backup runs.</source>
-        <translation>選擇執行備份的日期和時間。</translation>
+        <translation>選擇在哪幾天、什麼時間執行備份。</translation>
     </message>
     <message>
         <source>Run missed backups as soon as possible</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>僅將變更上傳到 %1</translation>
+        <translation>將變更單向上傳到 %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週一</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週四</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週六</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週五</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週日</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週二</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>週三</translation>
     </message>
     <message>
@@ -3702,7 +3562,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Share link</source>
         <extracomment>Button: shows the URL to an item (verb and noun: share the link).</extracomment>
-        <translation>共用連結</translation>
+        <translation>共用此連結</translation>
     </message>
     <message>
         <source>Backup tasks require %1 %2 or later on the hub. The installed version is %3.</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>已是最新</translation>
     </message>
     <message>
@@ -3888,7 +3746,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Comment</source>
         <extracomment>Choice: a right on a shared file (verb), beside Preview and Edit.</extracomment>
-        <translation>評論</translation>
+        <translation>發表評論</translation>
     </message>
     <message>
         <source>The volume of the hub is full. Please contact your administrator.</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>已釋放空間</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>已可在這部電腦上使用</translation>
     </message>
     <message>
@@ -3994,7 +3848,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The destination is already used by another backup task. Please choose another folder.</source>
-        <translation>其他備份任務已在使用此目的地。請選擇其他資料夾。</translation>
+        <translation>其他備份任務已在使用此目標位置。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>備份模式</translation>
     </message>
     <message>
@@ -4285,9 +4137,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>連線</translation>
     </message>
     <message>
@@ -4494,7 +4344,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Are you sure you want to remove the link? It cannot be restored.</source>
-        <translation>確定要移除此連結嗎？移除後無法復原。</translation>
+        <translation>確定要移除此連結嗎？移除後無法還原。</translation>
     </message>
     <message>
         <source>Remove this link?</source>
@@ -4549,7 +4399,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Advanced logging</source>
         <extracomment>Heading of a part of the settings: more details are written to the logs.</extracomment>
-        <translation>進階記錄</translation>
+        <translation>進階記錄檔</translation>
     </message>
     <message>
         <source>Advanced logs take up more space on the disk and may slow down the client.</source>
@@ -4569,7 +4419,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Turn on advanced logging</source>
         <extracomment>Check box of the settings: more details are written to the logs.</extracomment>
-        <translation>開啟進階記錄</translation>
+        <translation>開啟進階記錄檔功能</translation>
     </message>
     <message>
         <source>Not synced: excluded by a filter of the task</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>：</translation>
     </message>
     <message>

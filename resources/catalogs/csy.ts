@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Odstraněno</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Zrušit propojení</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Připojit přes Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Chyba</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Dokončit</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Místní složka</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Staženo</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Zrušit</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Další</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Zpět</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Nahráno</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Přizpůsobit</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Čas</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Vaše kvóta úložiště na hubu je vyčerpána. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Nastavení</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Sdílené složky</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Heslo</translation>
     </message>
     <message>
@@ -389,7 +341,7 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Synchronization could not be enabled for the shared folder.</source>
-        <translation>Synchronizaci sdílené složky se nepodařilo zapnout.</translation>
+        <translation>Synchronizaci sdílené složky se nepodařilo povolit.</translation>
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Please choose another one.</source>
@@ -416,7 +368,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Set up the proxy server manually</source>
         <extracomment>Choice, third of three: none, the system&apos;s, manual.</extracomment>
-        <translation>Nastavit proxy server ručně</translation>
+        <translation>Nakonfigurovat proxy server ručně</translation>
     </message>
     <message>
         <source>There are no changes to apply.</source>
@@ -425,7 +377,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Enable synchronization</source>
         <extracomment>Check box for a shared folder: it is synced.</extracomment>
-        <translation>Zapnout synchronizaci</translation>
+        <translation>Povolit synchronizaci</translation>
     </message>
     <message>
         <source>Shared folder name</source>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Stav</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Použít</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Spravovat</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Došlo k potížím</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Používat v oznamovací oblasti černobílou ikonu</translation>
     </message>
     <message>
@@ -529,12 +471,12 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Automatic setup failed. Please set up the connection manually.</source>
-        <translation>Automatické nastavení se nezdařilo. Nastavte připojení ručně.</translation>
+        <translation>Automatická konfigurace se nezdařila. Nakonfigurujte připojení ručně.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
         <extracomment>Status: last step of the automatic set-up of the client (not of the installer).</extracomment>
-        <translation>Dokončování nastavení...</translation>
+        <translation>Dokončování konfigurace...</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Složka</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Odebrat</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Příprava...</translation>
     </message>
     <message>
@@ -688,7 +616,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>Advanced settings</source>
         <extracomment>Button: opens further settings of a task.</extracomment>
-        <translation>Upřesnit nastavení</translation>
+        <translation>Pokročilé nastavení</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Režim synchronizace</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Pozastaveno</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Oprávnění odepřeno</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Získat odkaz</translation>
     </message>
     <message>
@@ -827,25 +745,13 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Pozastavit</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
-        <translation>Pokračovat</translation>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
+        <translation>Zrušit pozastavení</translation>
     </message>
     <message>
         <source>Exclusion rules</source>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Akce</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Název souboru</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Velikost</translation>
     </message>
     <message>
@@ -881,12 +781,12 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Disabled</source>
         <extracomment>Status of a shared folder: its sync is turned off.</extracomment>
-        <translation>Vypnuto</translation>
+        <translation>Zakázáno</translation>
     </message>
     <message>
         <source>Enabled</source>
         <extracomment>Status of a shared folder: its sync is turned on.</extracomment>
-        <translation>Zapnuto</translation>
+        <translation>Povoleno</translation>
     </message>
     <message>
         <source>If you stop syncing this shared folder, later changes will not be transferred. The local files will be kept.</source>
@@ -896,7 +796,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Enable SSL encryption</source>
         <extracomment>Check box of the connection settings.</extracomment>
-        <translation>Zapnout šifrování SSL</translation>
+        <translation>Povolit šifrování SSL</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to sync with the hub.</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Nechat aplikace otevřené. Potom bude nutné restartovat počítač.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Procházet předchozí verze</translation>
     </message>
     <message>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Následující aplikace mají otevřené soubory, které instalační program aplikace [ProductName] potřebuje nahradit:</translation>
     </message>
     <message>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Opravit</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Ano</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Zavřít aplikace nyní a po dokončení instalace je znovu otevřít.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Změnit</translation>
     </message>
     <message>
@@ -1282,7 +1174,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Synchronization enabled</source>
         <extracomment>Status of a shared folder.</extracomment>
-        <translation>Synchronizace zapnuta</translation>
+        <translation>Synchronizace povolena</translation>
     </message>
     <message>
         <source>Add task</source>
@@ -1316,7 +1208,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
-        <translation>Sdílení je pro váš účet vypnuto.</translation>
+        <translation>Sdílení je pro váš účet zakázáno.</translation>
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
@@ -1376,23 +1268,21 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
-        <translation>Sdílení souborů přes Ferrylink je na hubu vypnuto. Obraťte se na správce.</translation>
+        <translation>Sdílení souborů přes Ferrylink je na hubu zakázáno. Obraťte se na správce.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Včera</translation>
     </message>
     <message>
         <source>Choose how you want to set up Tessaly.</source>
-        <translation>Zvolte, jak chcete aplikaci Tessaly nastavit.</translation>
+        <translation>Zvolte, jak chcete aplikaci Tessaly nakonfigurovat.</translation>
     </message>
     <message>
         <source>Quick setup</source>
         <extracomment>Choice of the wizard, first of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Rychlé nastavení</translation>
+        <translation>Rychlá konfigurace</translation>
     </message>
     <message>
         <source>Items %1 to %2 of %3</source>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Před %1 h</translation>
+        <translation>Před %1&#xa0;h</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Přejmenováno</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Před %1 d</translation>
+        <translation>Před %1&#xa0;d</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Před %1 min</translation>
+        <translation>Před %1&#xa0;min</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Soubor</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Typ</translation>
     </message>
     <message>
@@ -1604,10 +1488,8 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Pokročilé nastavení</translation>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <translation>Pokročilá konfigurace</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1625,7 +1507,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup is complete</source>
         <extracomment>Heading of the wizard&apos;s last page: the client is set up (not the installer).</extracomment>
-        <translation>Nastavení je dokončeno</translation>
+        <translation>Konfigurace je dokončena</translation>
     </message>
     <message>
         <source>Put files into the synced folder, and they appear on the hub and on all your other computers.</source>
@@ -1638,7 +1520,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup mode</source>
         <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
-        <translation>Režim nastavení</translation>
+        <translation>Režim konfigurace</translation>
     </message>
     <message>
         <source>No, thanks</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Uživatelské jméno</translation>
     </message>
     <message>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Soubory větší než %1 MB se nebudou synchronizovat.</translation>
+        <translation>Soubory větší než %1&#xa0;MB se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1807,7 +1687,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Welcome to the setup wizard</source>
         <extracomment>Heading of the wizard&apos;s first page.</extracomment>
-        <translation>Vítá vás průvodce nastavením</translation>
+        <translation>Vítá vás průvodce konfigurací</translation>
     </message>
     <message>
         <source>Last page</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Synchronizace</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2057,7 +1933,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>The hub requires 2-factor authentication. Please set it up in the web portal and sign in again.</source>
-        <translation>Hub vyžaduje dvoufázové ověření. Nastavte ho na webovém portálu a znovu se přihlaste.</translation>
+        <translation>Hub vyžaduje dvoufázové ověření. Nakonfigurujte ho na webovém portálu a znovu se přihlaste.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is used up.</source>
@@ -2141,7 +2017,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
         <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
-        <translation>Služba domovských složek je na hubu vypnuta. Obraťte se na správce.</translation>
+        <translation>Služba domovských složek je na hubu zakázána. Obraťte se na správce.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Složka na hubu</translation>
     </message>
     <message>
@@ -2319,7 +2193,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>The Ferrylink relay service is disabled on the hub.</source>
-        <translation>Přenosová služba Ferrylink je na hubu vypnuta.</translation>
+        <translation>Přenosová služba Ferrylink je na hubu zakázána.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Oznámení</translation>
     </message>
     <message>
@@ -2352,7 +2222,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Set up</source>
         <extracomment>Button: begins to set up what is named beside it (verb).</extracomment>
-        <translation>Nastavit</translation>
+        <translation>Nakonfigurovat</translation>
     </message>
     <message>
         <source>Open synced folder</source>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Neshoda verzí</translation>
     </message>
     <message>
@@ -2490,7 +2358,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>Aplikace %1 je nastavena. Otevřete svou složku a začněte pracovat.</translation>
+        <translation>Aplikace %1 je nakonfigurována. Otevřete svou složku a začněte pracovat.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to Tessaly</source>
@@ -2504,7 +2372,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Set up %1 to sync and back up the files on this computer.</source>
         <extracomment>Message of the wizard; %1 is a product name.</extracomment>
-        <translation>Nastavte aplikaci %1 k synchronizaci a zálohování souborů v tomto počítači.</translation>
+        <translation>Nakonfigurujte aplikaci %1 k synchronizaci a zálohování souborů v tomto počítači.</translation>
     </message>
     <message>
         <source>Almost done! Your files will soon be available in Tessaly Server.</source>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>Aplikace Tessaly Server na hubu je pro tohoto klienta příliš stará. Požádejte správce o její aktualizaci.</translation>
+        <translation>Aplikace Tessaly Server na hubu je pro tohoto klienta příliš stará. Požádejte správce o aktualizaci.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2591,7 +2459,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Setup is complete. Your files are now being synced.</source>
-        <translation>Nastavení je dokončeno. Vaše soubory se nyní synchronizují.</translation>
+        <translation>Konfigurace je dokončena. Vaše soubory se nyní synchronizují.</translation>
     </message>
     <message>
         <source>Click the tray icon at any time to see the status and change the settings.</source>
@@ -2608,7 +2476,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly is set up. Open your folder to start working.</source>
-        <translation>Aplikace Tessaly je nastavena. Otevřete svou složku a začněte pracovat.</translation>
+        <translation>Aplikace Tessaly je nakonfigurována. Otevřete svou složku a začněte pracovat.</translation>
     </message>
     <message>
         <source>You only have read access to this folder. Tessaly will not upload your changes.</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Na tomto disku není dost místa. Aplikace Tessaly potřebuje alespoň %1 MB.</translation>
+        <translation>Na tomto disku není dost místa. Aplikace Tessaly potřebuje alespoň %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2653,7 +2521,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Set up Tessaly to sync the files on this computer.</source>
-        <translation>Nastavte aplikaci Tessaly k synchronizaci souborů v tomto počítači.</translation>
+        <translation>Nakonfigurujte aplikaci Tessaly k synchronizaci souborů v tomto počítači.</translation>
     </message>
     <message>
         <source>New to Tessaly? Read the &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
@@ -2735,18 +2603,16 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Stáhnout</translation>
     </message>
     <message>
         <source>Public sharing is disabled on the hub.</source>
-        <translation>Veřejné sdílení je na hubu vypnuto.</translation>
+        <translation>Veřejné sdílení je na hubu zakázáno.</translation>
     </message>
     <message>
         <source>Sharing is disabled. Please contact your administrator.</source>
-        <translation>Sdílení je vypnuto. Obraťte se na správce.</translation>
+        <translation>Sdílení je zakázáno. Obraťte se na správce.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Sdílet</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Ponechat soubory na hubu, když se odstraní z tohoto počítače</translation>
     </message>
     <message>
@@ -2958,12 +2820,12 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Enable later</source>
         <extracomment>Choice of the wizard, second of two: files that others share with the user.</extracomment>
-        <translation>Zapnout později</translation>
+        <translation>Povolit později</translation>
     </message>
     <message>
         <source>Enable now</source>
         <extracomment>Choice of the wizard, first of two: files that others share with the user.</extracomment>
-        <translation>Zapnout nyní</translation>
+        <translation>Povolit nyní</translation>
     </message>
     <message>
         <source>Files shared with you</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Vždy zachovat v tomto počítači</translation>
     </message>
     <message>
@@ -3129,7 +2989,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Zálohování je dokončeno. Počítač se vypne za %1 s.</translation>
+        <translation>Zálohování je dokončeno. Počítač se vypne za %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3237,7 +3097,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup schedule</source>
         <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
-        <translation>Plán zálohování</translation>
+        <translation>Rozvrh zálohování</translation>
     </message>
     <message>
         <source>Manager</source>
@@ -3265,7 +3125,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Copy files from this computer to the hub, at once or on a schedule.</source>
-        <translation>Kopírujte soubory z tohoto počítače na hub, ihned nebo podle plánu.</translation>
+        <translation>Kopírujte soubory z tohoto počítače na hub, ihned nebo podle rozvrhu.</translation>
     </message>
     <message>
         <source>Choose when the files are backed up.</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>Verze balíčku na hubu není podporována. Požádejte správce o jeho aktualizaci.</translation>
+        <translation>Verze balíčku na hubu není podporována. Požádejte správce o aktualizaci.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3479,7 +3339,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Set up your sync folders</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Nastavte složky synchronizace</translation>
+        <translation>Nakonfigurujte složky synchronizace</translation>
     </message>
     <message>
         <source>Please free up some space on the disk of this computer.</source>
@@ -3534,21 +3394,21 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Home folder disabled</source>
         <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
-        <translation>Domovská složka je vypnuta</translation>
+        <translation>Domovská složka je zakázána</translation>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Po</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Čt</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>So</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Pá</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Ne</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Út</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>St</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Aktuální</translation>
     </message>
     <message>
@@ -3868,12 +3726,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Enable on-demand sync</source>
         <extracomment>Check box of a task&apos;s settings.</extracomment>
-        <translation>Zapnout synchronizaci na vyžádání</translation>
+        <translation>Povolit synchronizaci na vyžádání</translation>
     </message>
     <message>
         <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
         <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
-        <translation>Složka synchronizace na vyžádání „%1“ chybí. Nastavte úlohu znovu.</translation>
+        <translation>Složka synchronizace na vyžádání „%1“ chybí. Nakonfigurujte úlohu znovu.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Místo uvolněno</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Zpřístupněno v tomto počítači</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Na tomto disku není dost místa. Aplikace %1 potřebuje alespoň %2 MB.</translation>
+        <translation>Na tomto disku není dost místa. Aplikace %1 potřebuje alespoň %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3960,7 +3814,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Enable on-demand sync for this task</source>
         <extracomment>Check box of the wizard.</extracomment>
-        <translation>Zapnout pro tuto úlohu synchronizaci na vyžádání</translation>
+        <translation>Povolit pro tuto úlohu synchronizaci na vyžádání</translation>
     </message>
     <message>
         <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
@@ -3972,7 +3826,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Your disk is filling up. Enable on-demand sync to free up space.</source>
-        <translation>Disk se zaplňuje. Zapněte synchronizaci na vyžádání a uvolněte místo.</translation>
+        <translation>Disk se zaplňuje. Povolte synchronizaci na vyžádání a uvolněte místo.</translation>
     </message>
     <message>
         <source>Everything that others share with you, in one folder</source>
@@ -4117,7 +3971,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Syncing...</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Synchronizace...</translation>
+        <translation>Synchronizuje se...</translation>
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Režim zálohování</translation>
     </message>
     <message>
@@ -4281,13 +4133,11 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Zadejte velikost od 0 do %1 MB. Zadáním 0 limit vypnete.</translation>
+        <translation>Zadejte velikost od 0 do %1&#xa0;MB. Zadáním 0 limit vypnete.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Připojení</translation>
     </message>
     <message>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Aplikace Tessaly Server na hubu je pro aplikaci %1 příliš stará. Požádejte správce o její aktualizaci.</translation>
+        <translation>Aplikace Tessaly Server na hubu je pro aplikaci %1 příliš stará. Požádejte správce o aktualizaci.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4470,12 +4320,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Enable advanced sharing</source>
         <extracomment>Check box for an item.</extracomment>
-        <translation>Zapnout pokročilé sdílení</translation>
+        <translation>Povolit pokročilé sdílení</translation>
     </message>
     <message>
         <source>Enable link protection</source>
         <extracomment>Check box for an item: password and validity of its link (URL).</extracomment>
-        <translation>Zapnout ochranu odkazu</translation>
+        <translation>Povolit ochranu odkazu</translation>
     </message>
     <message>
         <source>is now shared with advanced settings.</source>
@@ -4549,12 +4399,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Advanced logging</source>
         <extracomment>Heading of a part of the settings: more details are written to the logs.</extracomment>
-        <translation>Podrobné protokolování</translation>
+        <translation>Pokročilé protokolování</translation>
     </message>
     <message>
         <source>Advanced logs take up more space on the disk and may slow down the client.</source>
         <extracomment>Message: &quot;logs&quot; are the records of what the client did; no relation to locks.</extracomment>
-        <translation>Podrobné protokoly zabírají více místa na disku a mohou klienta zpomalit.</translation>
+        <translation>Pokročilé protokoly zabírají více místa na disku a mohou klienta zpomalit.</translation>
     </message>
     <message>
         <source>Privacy statement</source>
@@ -4569,7 +4419,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Turn on advanced logging</source>
         <extracomment>Check box of the settings: more details are written to the logs.</extracomment>
-        <translation>Zapnout podrobné protokolování</translation>
+        <translation>Zapnout pokročilé protokolování</translation>
     </message>
     <message>
         <source>Not synced: excluded by a filter of the task</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Zadejte velikost menší než %1 MB.</translation>
+        <translation>Zadejte velikost menší než %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4605,7 +4455,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>On-demand sync could not be enabled for this task.</source>
-        <translation>Synchronizaci na vyžádání se pro tuto úlohu nepodařilo zapnout.</translation>
+        <translation>Synchronizaci na vyžádání se pro tuto úlohu nepodařilo povolit.</translation>
     </message>
     <message>
         <source>The connection to the hub failed. Please check the address and your network.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4650,7 +4500,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Norvik disabled</source>
         <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
-        <translation>Norvik je vypnutý</translation>
+        <translation>Norvik je zakázán</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
@@ -4674,7 +4524,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Norvik is disabled on the hub. Please contact your administrator.</source>
-        <translation>Norvik je na hubu vypnutý. Obraťte se na správce.</translation>
+        <translation>Norvik je na hubu zakázán. Obraťte se na správce.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Slettet</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Fjern tilknytning</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Opret forbindelse via Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Fejl</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Udfør</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Lokal mappe</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Downloadet</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Annuller</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Næste</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Tilbage</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Uploadet</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Tilpas</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Tidspunkt</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Din lagerkvote på hubben er brugt op. Frigør plads, og prøv igen.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Indstillinger</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Delte mapper</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Adgangskode</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Status</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Anvend</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Administrer</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Noget gik galt</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Brug et sort-hvidt ikon i systembakken</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Mappe</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Fjern</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Forbereder...</translation>
     </message>
     <message>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
-        <translation>Synkroniseringstype</translation>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <translation>Synkroniseringstilstand</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Sat på pause</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Adgang nægtet</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Hent link</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Sæt på pause</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Genoptag</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Handling</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Filnavn</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Størrelse</translation>
     </message>
     <message>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Lad programmerne være åbne. Du skal genstarte computeren bagefter.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Gennemse tidligere versioner</translation>
     </message>
     <message>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Disse programmer har filer åbne, som installationsprogrammet til [ProductName] skal erstatte:</translation>
     </message>
     <message>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Reparer</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Ja</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Luk programmerne nu, og åbn dem igen, når installationen er færdig.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Ændr</translation>
     </message>
     <message>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>I går</translation>
     </message>
     <message>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>For %1 t. siden</translation>
+        <translation>For %1&#xa0;t. siden</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Omdøbt</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>For %1 døgn siden</translation>
+        <translation>For %1&#xa0;d. siden</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>For %1 min. siden</translation>
+        <translation>For %1&#xa0;min. siden</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Fil</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Type</translation>
     </message>
     <message>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>Avanceret konfiguration</translation>
     </message>
     <message>
@@ -1638,7 +1520,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup mode</source>
         <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
-        <translation>Konfigurationstype</translation>
+        <translation>Konfigurationstilstand</translation>
     </message>
     <message>
         <source>No, thanks</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Brugernavn</translation>
     </message>
     <message>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Filer, der er større end %1 MB, bliver ikke synkroniseret.</translation>
+        <translation>Filer, der er større end %1&#xa0;MB, bliver ikke synkroniseret.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Synkronisering</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2108,7 +1984,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Enter a full file name, such as &quot;desktop.ini&quot;, and press Enter.</source>
         <extracomment>Tooltip of a field; &quot;desktop.ini&quot; is an example and stays; Enter is the key.</extracomment>
-        <translation>Angiv et helt filnavn, f.eks. “desktop.ini”, og tryk på Enter.</translation>
+        <translation>Angiv et helt filnavn, for eksempel “desktop.ini”, og tryk på Enter.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Please choose another name.</source>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Mappe på hubben</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Notifikationer</translation>
     </message>
     <message>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versionerne passer ikke sammen</translation>
     </message>
     <message>
@@ -2485,7 +2353,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Download kun ændringer fra %1</translation>
+        <translation>Kun download af ændringer fra %1</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>Tessaly Server på hubben er for gammel til denne klient. Bed din administrator om at opdatere den.</translation>
+        <translation>Tessaly Server på hubben er for gammel til denne klient. Bed din administrator om en opdatering.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Der er ikke nok plads på denne disk. Tessaly kræver mindst %1 MB.</translation>
+        <translation>Der er ikke nok plads på denne disk. Tessaly kræver mindst %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Download</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Del</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Behold filer på hubben, når de slettes fra denne computer</translation>
     </message>
     <message>
@@ -3010,7 +2872,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Download kun ændringer fra Tessaly Server</translation>
+        <translation>Kun download af ændringer fra Tessaly Server</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Behold altid på denne computer</translation>
     </message>
     <message>
@@ -3129,7 +2989,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Backuppen er færdig. Computeren lukker ned om %1 sekunder.</translation>
+        <translation>Backuppen er færdig. Computeren lukker ned om %1&#xa0;sekunder.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>Pakkens version på hubben understøttes ikke. Bed din administrator om at opdatere den.</translation>
+        <translation>Pakkens version på hubben understøttes ikke. Bed din administrator om en opdatering.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Upload kun ændringer til %1</translation>
+        <translation>Kun upload af ændringer til %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>man</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>tor</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>lør</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>fre</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>søn</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>tir</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>ons</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Opdateret</translation>
     </message>
     <message>
@@ -3905,7 +3763,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Enter a file name or extension, such as &quot;*.tmp&quot;</source>
         <extracomment>Tooltip of a cell of the list of excluded files; &quot;*.tmp&quot; is an example and stays.</extracomment>
-        <translation>Angiv et filnavn eller filtypenavn, f.eks. “*.tmp”</translation>
+        <translation>Angiv et filnavn eller filtypenavn, for eksempel “*.tmp”</translation>
     </message>
     <message>
         <source>Roles and permissions</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Plads frigjort</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Gjort tilgængelig på denne computer</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Der er ikke nok plads på denne disk. %1 kræver mindst %2 MB.</translation>
+        <translation>Der er ikke nok plads på denne disk. %1 kræver mindst %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3986,7 +3840,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
-        <translation>Denne klient kræver %1 %2 eller nyere på hubben. Bed din administrator om at opdatere.</translation>
+        <translation>Denne klient kræver %1 %2 eller nyere på hubben. Bed din administrator om en opdatering.</translation>
     </message>
     <message>
         <source>You do not have permission to use the package on the hub. Please contact your administrator.</source>
@@ -4181,7 +4035,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Operation</source>
         <extracomment>Column head of a list: what can be done with an entry (noun).</extracomment>
-        <translation>Handling</translation>
+        <translation>Handlinger</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist.</source>
@@ -4217,10 +4071,8 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
-        <translation>Backuptype</translation>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <translation>Backuptilstand</translation>
     </message>
     <message>
         <source>Do you want to start the backup now?</source>
@@ -4281,13 +4133,11 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Angiv en størrelse fra 0 til %1 MB. Angiv 0 for ingen grænse.</translation>
+        <translation>Angiv en størrelse fra 0 til %1&#xa0;MB. Angiv 0 for ingen grænse.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Forbindelse</translation>
     </message>
     <message>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Tessaly Server på hubben er for gammel til %1. Bed din administrator om at opdatere den.</translation>
+        <translation>Tessaly Server på hubben er for gammel til %1. Bed din administrator om en opdatering.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Angiv en størrelse på mindre end %1 MB.</translation>
+        <translation>Angiv en størrelse på mindre end %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Supprimé</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Dissocier</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Se connecter via Ferrylink</translation>
     </message>
     <message>
@@ -40,15 +30,13 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Erreur</translation>
     </message>
     <message>
         <source>File conflicts occurred. The file is now renamed as %1.</source>
         <extracomment>Message: %1 is the new file name.</extracomment>
-        <translation>Des conflits de fichiers sont survenus. Le fichier s&apos;appelle désormais %1.</translation>
+        <translation>Des conflits de fichiers sont survenus. Le fichier a été renommé en %1.</translation>
     </message>
     <message>
         <source>The value is invalid. Please check it and try again.</source>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Terminer</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Dossier local</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Téléchargé</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Suivant</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Précédent</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Envoyé</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Personnaliser</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Heure</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Votre quota de stockage sur le hub est épuisé. Veuillez libérer de l&apos;espace, puis réessayer.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Paramètres</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Dossiers partagés</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Mot de passe</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>État</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Appliquer</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Gérer</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Un problème est survenu</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
@@ -544,7 +486,7 @@ Check box of the display settings.</extracomment>
     <message>
         <source>Selective sync</source>
         <extracomment>Button: opens the choice of the folders and files that are synced.</extracomment>
-        <translation>Synchro sélective</translation>
+        <translation>Synchronisation sélective</translation>
     </message>
     <message>
         <source>Files and folders that match these rules will not be synced.</source>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Dossier</translation>
     </message>
     <message>
@@ -613,16 +551,8 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
-        <translation>Supprimer</translation>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from the hub?</source>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Préparation...</translation>
     </message>
     <message>
@@ -722,7 +650,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>The folders that you cleared will be removed from this computer. They stay on the hub.</source>
         <extracomment>Message: to clear is to take the check mark away.</extracomment>
-        <translation>Les dossiers que vous avez désélectionnés seront supprimés de cet ordinateur. Ils resteront sur le hub.</translation>
+        <translation>Les dossiers que vous avez désélectionnés seront retirés de cet ordinateur. Ils resteront sur le hub.</translation>
     </message>
     <message>
         <source>Conflict handling</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
-        <translation>Mode de synchro</translation>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <translation>Mode de synchronisation</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>En pause</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Autorisation refusée</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Obtenir le lien</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Mettre en pause</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Reprendre</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Action</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Nom du fichier</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Taille</translation>
     </message>
     <message>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Laisser les applications ouvertes. Vous devrez ensuite redémarrer l&apos;ordinateur.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Parcourir les versions précédentes</translation>
     </message>
     <message>
@@ -1059,7 +957,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
-        <translation>Une erreur s&apos;est produite et [ProductName] n&apos;a pas été installé. Toutes les modifications effectuées par le programme d&apos;installation ont été annulées. Vous pouvez le relancer à tout moment.</translation>
+        <translation>Une erreur s&apos;est produite et [ProductName] n&apos;a pas été installé. Toutes les modifications effectuées par le programme d&apos;installation ont été annulées. Vous pouvez relancer le programme d&apos;installation à tout moment.</translation>
     </message>
     <message>
         <source>Ignore</source>
@@ -1089,12 +987,12 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Cet assistant permet de modifier, de réparer ou de supprimer [ProductName]. Cliquez sur Suivant pour continuer ou sur Annuler pour quitter le programme d&apos;installation.</translation>
+        <translation>Cet assistant permet de modifier, de réparer ou de désinstaller [ProductName]. Cliquez sur Suivant pour continuer ou sur Annuler pour quitter le programme d&apos;installation.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Supprimer [ProductName]</translation>
+        <translation>Désinstaller [ProductName]</translation>
     </message>
     <message>
         <source>Read only</source>
@@ -1108,25 +1006,23 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Des fichiers que le programme d&apos;installation de [ProductName] doit remplacer sont ouverts dans ces applications&#xa0;:</translation>
     </message>
     <message>
         <source>Sync activity</source>
         <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
-        <translation>Activité de synchro</translation>
+        <translation>Activité de synchronisation</translation>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Réparer</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
         <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
-        <translation>Installation de [ProductName]</translation>
+        <translation>Installation de [ProductName] en cours</translation>
     </message>
     <message>
         <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Oui</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Fermer les applications maintenant et les rouvrir à la fin de l&apos;installation.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Modifier</translation>
     </message>
     <message>
@@ -1188,11 +1080,11 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>You can change, repair, or remove the installed program.</source>
-        <translation>Vous pouvez modifier, réparer ou supprimer le programme installé.</translation>
+        <translation>Vous pouvez modifier, réparer ou désinstaller le programme installé.</translation>
     </message>
     <message>
         <source>Removes the program and its settings from your computer.</source>
-        <translation>Supprime le programme et ses paramètres de votre ordinateur.</translation>
+        <translation>Désinstalle le programme et retire ses paramètres de votre ordinateur.</translation>
     </message>
     <message>
         <source>This may take several minutes.</source>
@@ -1209,16 +1101,16 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Setup is about to remove the program.</source>
-        <translation>Le programme d&apos;installation est sur le point de supprimer le logiciel.</translation>
+        <translation>Le programme d&apos;installation est sur le point de désinstaller le logiciel.</translation>
     </message>
     <message>
         <source>Ready to remove [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Prêt à supprimer [ProductName]</translation>
+        <translation>Prêt à désinstaller [ProductName]</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from this computer. Your synced files will be kept.</source>
-        <translation>Cliquez sur Supprimer pour supprimer [ProductName] de cet ordinateur. Vos fichiers synchronisés seront conservés.</translation>
+        <translation>Cliquez sur Retirer pour désinstaller [ProductName] de cet ordinateur. Vos fichiers synchronisés seront conservés.</translation>
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
@@ -1321,7 +1213,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
         <extracomment>Message: %1 is the task&apos;s name.</extracomment>
-        <translation>La tâche «&#xa0;%1&#xa0;» s&apos;arrêtera et sa connexion au hub sera supprimée. Les fichiers seront conservés des deux côtés.</translation>
+        <translation>La tâche «&#xa0;%1&#xa0;» s&apos;arrêtera et sa connexion au hub sera retirée. Les fichiers seront conservés des deux côtés.</translation>
     </message>
     <message>
         <source>Open containing folder</source>
@@ -1372,7 +1264,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Synchronisez, partagez et protégez vos fichiers</translation>
+        <translation>Fichiers synchronisés, partagés et protégés</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Hier</translation>
     </message>
     <message>
@@ -1443,9 +1333,7 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Renommé</translation>
     </message>
     <message>
@@ -1465,9 +1353,7 @@ Event: what happened to the file named beside it (participle; the file was renam
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Fichier</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Type</translation>
     </message>
     <message>
@@ -1560,7 +1444,7 @@ Column head of a list: the kind of file.</extracomment>
     <message>
         <source>Now syncing</source>
         <extracomment>Heading of the list of files that are being synced at present.</extracomment>
-        <translation>Synchro en cours</translation>
+        <translation>Synchronisation en cours</translation>
     </message>
     <message>
         <source>September</source>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>Configuration avancée</translation>
     </message>
     <message>
@@ -1658,7 +1540,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Find hubs on the local network</source>
         <extracomment>Button of the wizard.</extracomment>
-        <translation>Rechercher des hubs sur le réseau local</translation>
+        <translation>Trouver des hubs sur le réseau local</translation>
     </message>
     <message>
         <source>Status information</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Nom d&apos;utilisateur</translation>
     </message>
     <message>
@@ -1684,7 +1564,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>This file does not belong to a sync task.</source>
-        <translation>Ce fichier n&apos;appartient à aucune tâche de synchro.</translation>
+        <translation>Ce fichier n&apos;appartient à aucune tâche de synchronisation.</translation>
     </message>
     <message>
         <source>Open main window</source>
@@ -1704,11 +1584,11 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nouvelle tâche de synchro</translation>
+        <translation>Nouvelle tâche de synchronisation</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
-        <translation>Choisissez vous-même les dossiers, le sens de synchro et les filtres.</translation>
+        <translation>Choisissez vous-même les dossiers, le sens de synchronisation et les filtres.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1793,7 +1673,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>The sync direction does not match your permissions on the remote folder.</source>
         <extracomment>Message of a task; the direction is upload only, download only or two-way.</extracomment>
-        <translation>Le sens de synchro ne correspond pas à vos autorisations sur le dossier distant.</translation>
+        <translation>Le sens de synchronisation ne correspond pas à vos autorisations sur le dossier distant.</translation>
     </message>
     <message>
         <source>The IP address of this computer is blocked by the hub. Please contact your administrator.</source>
@@ -1802,7 +1682,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Lorsqu&apos;un fichier a été modifié des deux côtés&#xa0;:</translation>
+        <translation>Lorsqu&apos;un fichier a changé des deux côtés&#xa0;:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1849,17 +1729,17 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Sync folders</source>
         <extracomment>Heading of a wizard page: the folders that are synced (noun).</extracomment>
-        <translation>Dossiers à synchroniser</translation>
+        <translation>Dossiers synchronisés</translation>
     </message>
     <message>
         <source>Keep the version that was modified last</source>
         <extracomment>Choice, first of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Conserver la version modifiée en dernier</translation>
+        <translation>Garder la version modifiée en dernier</translation>
     </message>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Dans les deux sens</translation>
+        <translation>Synchronisation bidirectionnelle</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1877,7 +1757,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>The folder is already used by another sync task on this computer.</source>
-        <translation>Le dossier est déjà utilisé par une autre tâche de synchro sur cet ordinateur.</translation>
+        <translation>Le dossier est déjà utilisé par une autre tâche de synchronisation sur cet ordinateur.</translation>
     </message>
     <message>
         <source>%1 requested access to the Bureau template &quot;%2&quot;.</source>
@@ -1920,20 +1800,18 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Synchronisation</translation>
     </message>
     <message>
         <source>Always keep the version on the hub</source>
         <extracomment>Choice, second of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Toujours conserver la version du hub</translation>
+        <translation>Toujours garder la version du hub</translation>
     </message>
     <message>
         <source>Rename conflicting files and keep both versions</source>
         <extracomment>Choice, third of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Renommer les fichiers en conflit et conserver les deux versions</translation>
+        <translation>Renommer les fichiers en conflit et garder les deux versions</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1972,7 +1850,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Remove this user&apos;s permission</source>
         <extracomment>Screen reader: names a button.</extracomment>
-        <translation>Supprimer l&apos;autorisation de cet utilisateur</translation>
+        <translation>Retirer l&apos;autorisation de cet utilisateur</translation>
     </message>
     <message>
         <source>Group: %1</source>
@@ -1997,7 +1875,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Sync task for the files that others share with you</source>
         <extracomment>Screen reader: describes a task.</extracomment>
-        <translation>Tâche de synchro des fichiers que d&apos;autres partagent avec vous</translation>
+        <translation>Tâche de synchronisation des fichiers que d&apos;autres partagent avec vous</translation>
     </message>
     <message>
         <source>Recently changed files tab</source>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2057,7 +1933,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>The hub requires 2-factor authentication. Please set it up in the web portal and sign in again.</source>
-        <translation>Le hub exige l&apos;authentification à deux facteurs. Veuillez la configurer dans le portail web, puis vous reconnecter.</translation>
+        <translation>Le hub exige l&apos;authentification à deux facteurs. Veuillez la configurer dans le portail web, puis vous authentifier à nouveau.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is used up.</source>
@@ -2071,7 +1947,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync direction</source>
         <extracomment>Label beside a list: two-way sync, upload only, download only.</extracomment>
-        <translation>Sens de synchro</translation>
+        <translation>Sens de synchronisation</translation>
     </message>
     <message>
         <source>Something went wrong in one of your tasks. Open the main window for details.</source>
@@ -2103,7 +1979,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>The username or password is incorrect. Please sign in again.</source>
-        <translation>Le nom d&apos;utilisateur ou le mot de passe est incorrect. Veuillez vous reconnecter.</translation>
+        <translation>Le nom d&apos;utilisateur ou le mot de passe est incorrect. Veuillez vous authentifier à nouveau.</translation>
     </message>
     <message>
         <source>Enter a full file name, such as &quot;desktop.ini&quot;, and press Enter.</source>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Tâche de synchro «&#xa0;%1&#xa0;»</translation>
+        <translation>Tâche de synchronisation «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Dossier sur le hub</translation>
     </message>
     <message>
@@ -2285,7 +2159,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Your password has expired. Please change it in the web portal and sign in again.</source>
-        <translation>Votre mot de passe a expiré. Veuillez le modifier dans le portail web, puis vous reconnecter.</translation>
+        <translation>Votre mot de passe a expiré. Veuillez le modifier dans le portail web, puis vous authentifier à nouveau.</translation>
     </message>
     <message>
         <source>Editor</source>
@@ -2310,7 +2184,7 @@ Label in the wizard&apos;s summary.</extracomment>
     <message>
         <source>This is not the account that the task was created with. Please sign in as &quot;%1&quot;.</source>
         <extracomment>Message: %1 is the name of an account.</extracomment>
-        <translation>Ce n&apos;est pas le compte avec lequel la tâche a été créée. Veuillez vous connecter en tant que «&#xa0;%1&#xa0;».</translation>
+        <translation>Ce n&apos;est pas le compte avec lequel la tâche a été créée. Veuillez vous authentifier en tant que «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Hub information</source>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Notifications</translation>
     </message>
     <message>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versions incompatibles</translation>
     </message>
     <message>
@@ -2485,7 +2353,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Télécharger uniquement les modifications depuis %1</translation>
+        <translation>Uniquement télécharger les modifications depuis %1</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>La version de Tessaly Server sur le hub est trop ancienne pour ce client. Veuillez demander à votre administrateur de la mettre à jour.</translation>
+        <translation>La version de Tessaly Server sur le hub est trop ancienne pour ce client. Veuillez demander à votre administrateur d&apos;effectuer la mise à jour.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2626,7 +2494,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>To use selective sync, please ask your administrator to update Tessaly Server on the hub.</source>
-        <translation>Pour utiliser la synchro sélective, veuillez demander à votre administrateur de mettre à jour Tessaly Server sur le hub.</translation>
+        <translation>Pour utiliser la synchronisation sélective, veuillez demander à votre administrateur de mettre à jour Tessaly Server sur le hub.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Télécharger</translation>
     </message>
     <message>
@@ -2756,7 +2622,7 @@ Button: fetches the file (verb).</extracomment>
     <message>
         <source>%1 (%2) requests %3 access to the Grida spreadsheet &quot;%4&quot;.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 an account&apos;s, %3 a right such as &quot;view&quot; or &quot;edit&quot;, %4 the file&apos;s name.</extracomment>
-        <translation>%1 (%2) demande l&apos;accès suivant à la feuille de calcul Grida «&#xa0;%4&#xa0;»&#xa0;: %3.</translation>
+        <translation>%1 (%2) demande l&apos;accès suivant au classeur Grida «&#xa0;%4&#xa0;»&#xa0;: %3.</translation>
     </message>
     <message>
         <source>People who have the link will no longer be able to open the file.</source>
@@ -2766,7 +2632,7 @@ Button: fetches the file (verb).</extracomment>
     <message>
         <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s; a Grida spreadsheet is a whole file, not one sheet.</extracomment>
-        <translation>%1 a partagé la feuille de calcul Grida «&#xa0;%2&#xa0;» avec vous.</translation>
+        <translation>%1 a partagé le classeur Grida «&#xa0;%2&#xa0;» avec vous.</translation>
     </message>
     <message>
         <source>No data</source>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Partager</translation>
     </message>
     <message>
@@ -2855,7 +2719,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     <message>
         <source>Save space with on-demand sync</source>
         <extracomment>Heading of a tutorial page, an invitation (verb).</extracomment>
-        <translation>Gagnez de l&apos;espace avec la synchro à la demande</translation>
+        <translation>Gagnez de l&apos;espace avec la synchronisation à la demande</translation>
     </message>
     <message>
         <source>All files show up on your computer, but they only take up space once you open them.</source>
@@ -2874,7 +2738,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     <message>
         <source>mentioned you in</source>
         <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann mentioned you in Plan.txt&quot;.</extracomment>
-        <translation>vous a mentionné(e) dans</translation>
+        <translation>a mentionné votre nom dans</translation>
     </message>
     <message>
         <source>requested access to</source>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Conserver les fichiers sur le hub lorsqu&apos;ils sont supprimés de cet ordinateur</translation>
     </message>
     <message>
@@ -2973,7 +2835,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Create a sync task</source>
         <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
-        <translation>Créer une tâche de synchro</translation>
+        <translation>Créer une tâche de synchronisation</translation>
     </message>
     <message>
         <source>My files and team folders</source>
@@ -3010,7 +2872,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Télécharger uniquement les modifications depuis Tessaly Server</translation>
+        <translation>Uniquement télécharger les modifications depuis Tessaly Server</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Toujours conserver sur cet ordinateur</translation>
     </message>
     <message>
@@ -3109,7 +2969,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Tâche de synchro</translation>
+        <translation>Tâche de synchronisation</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -3129,7 +2989,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>La sauvegarde est terminée. L&apos;ordinateur s&apos;éteindra dans %1 s.</translation>
+        <translation>La sauvegarde est terminée. L&apos;ordinateur s&apos;éteindra dans %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3168,12 +3028,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Dernière heure de fin</translation>
+        <translation>Fin de la dernière exécution</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>Dernière heure d&apos;exécution</translation>
+        <translation>Dernière exécution</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3370,7 +3230,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Please check your username and password, then sign in again.</source>
-        <translation>Veuillez vérifier votre nom d&apos;utilisateur et votre mot de passe, puis vous reconnecter.</translation>
+        <translation>Veuillez vérifier votre nom d&apos;utilisateur et votre mot de passe, puis vous authentifier à nouveau.</translation>
     </message>
     <message>
         <source>Please check that the hub is turned on and that this computer is connected to the network.</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>La version du paquet sur le hub n&apos;est pas prise en charge. Veuillez demander à votre administrateur de la mettre à jour.</translation>
+        <translation>La version du paquet sur le hub n&apos;est pas prise en charge. Veuillez demander à votre administrateur d&apos;effectuer la mise à jour.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3453,7 +3313,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync direction mismatch</source>
         <extracomment>Heading of the state of a task: it may upload alone or download alone.</extracomment>
-        <translation>Sens de synchro incompatible</translation>
+        <translation>Sens de synchronisation incompatible</translation>
     </message>
     <message>
         <source>Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
@@ -3474,7 +3334,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sign in to the hub that will store your backups.</source>
-        <translation>Connectez-vous au hub qui stockera vos sauvegardes.</translation>
+        <translation>Authentifiez-vous auprès du hub qui stockera vos sauvegardes.</translation>
     </message>
     <message>
         <source>Set up your sync folders</source>
@@ -3495,7 +3355,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>On-demand sync is not available for the selected folder or the operating system of this computer.</source>
-        <translation>La synchro à la demande n&apos;est pas disponible pour le dossier sélectionné ou le système d&apos;exploitation de cet ordinateur.</translation>
+        <translation>La synchronisation à la demande n&apos;est pas disponible pour le dossier sélectionné ou le système d&apos;exploitation de cet ordinateur.</translation>
     </message>
     <message>
         <source>Shared folder not mounted</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Envoyer uniquement les modifications vers %1</translation>
+        <translation>Uniquement envoyer les modifications vers %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Lun</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Jeu</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sam</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Ven</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Dim</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mar</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mer</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>À jour</translation>
     </message>
     <message>
@@ -3844,7 +3702,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>A newer version of Tessaly is already installed. Please remove it before you install Kelvane Quay Client.</source>
-        <translation>Une version plus récente de Tessaly est déjà installée. Veuillez la supprimer avant d&apos;installer Kelvane Quay Client.</translation>
+        <translation>Une version plus récente de Tessaly est déjà installée. Veuillez la désinstaller avant d&apos;installer Kelvane Quay Client.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to %1</source>
@@ -3868,22 +3726,22 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Enable on-demand sync</source>
         <extracomment>Check box of a task&apos;s settings.</extracomment>
-        <translation>Activer la synchro à la demande</translation>
+        <translation>Activer la synchronisation à la demande</translation>
     </message>
     <message>
         <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
         <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
-        <translation>Le dossier de synchro à la demande «&#xa0;%1&#xa0;» est introuvable. Veuillez configurer à nouveau la tâche.</translation>
+        <translation>Le dossier de synchronisation à la demande «&#xa0;%1&#xa0;» est introuvable. Veuillez configurer à nouveau la tâche.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
         <extracomment>Heading of a part of the settings: a feature&apos;s name (noun).</extracomment>
-        <translation>Synchro à la demande</translation>
+        <translation>Synchronisation à la demande</translation>
     </message>
     <message>
         <source>Try on-demand sync</source>
         <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
-        <translation>Essayez la synchro à la demande</translation>
+        <translation>Essayez la synchronisation à la demande</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -3919,26 +3777,22 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Espace libéré</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Rendu disponible sur cet ordinateur</translation>
     </message>
     <message>
         <source>On-demand sync requires a folder on an NTFS drive that is not a network or removable drive.</source>
-        <translation>La synchro à la demande nécessite un dossier sur un lecteur NTFS qui n&apos;est ni un lecteur réseau ni un lecteur amovible.</translation>
+        <translation>La synchronisation à la demande nécessite un dossier sur un lecteur NTFS qui n&apos;est ni un lecteur réseau ni un lecteur amovible.</translation>
     </message>
     <message>
         <source>Keep files online until you need them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;How on-demand sync works&lt;/a&gt;</source>
         <extracomment>Message: the link is to be kept as it is.</extracomment>
-        <translation>Gardez les fichiers en ligne jusqu&apos;à ce que vous en ayez besoin. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Fonctionnement de la synchro à la demande&lt;/a&gt;</translation>
+        <translation>Gardez les fichiers en ligne jusqu&apos;à ce que vous en ayez besoin. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Fonctionnement de la synchronisation à la demande&lt;/a&gt;</translation>
     </message>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
@@ -3951,7 +3805,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>If you turn this off, the folder with the files that others share with you will be removed from this computer. Do you want to continue?</source>
-        <translation>Si vous désactivez cette option, le dossier contenant les fichiers que d&apos;autres partagent avec vous sera supprimé de cet ordinateur. Voulez-vous continuer&#xa0;?</translation>
+        <translation>Si vous désactivez cette option, le dossier contenant les fichiers que d&apos;autres partagent avec vous sera retiré de cet ordinateur. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Sync the files that others share with you, so that you can open them like your own.</source>
@@ -3960,7 +3814,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Enable on-demand sync for this task</source>
         <extracomment>Check box of the wizard.</extracomment>
-        <translation>Activer la synchro à la demande pour cette tâche</translation>
+        <translation>Activer la synchronisation à la demande pour cette tâche</translation>
     </message>
     <message>
         <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
@@ -3972,7 +3826,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Your disk is filling up. Enable on-demand sync to free up space.</source>
-        <translation>Votre disque est presque plein. Activez la synchro à la demande pour libérer de l&apos;espace.</translation>
+        <translation>Votre disque est presque plein. Activez la synchronisation à la demande pour libérer de l&apos;espace.</translation>
     </message>
     <message>
         <source>Everything that others share with you, in one folder</source>
@@ -4004,7 +3858,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Only you can open the link</source>
         <extracomment>Choice: who may open a sharing link (a sentence without a full stop).</extracomment>
-        <translation>Vous seul pouvez ouvrir le lien</translation>
+        <translation>Vous êtes la seule personne à pouvoir ouvrir le lien</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -4149,7 +4003,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>All tasks with this hub will be removed from this computer. The files will be kept. Do you want to continue?</source>
-        <translation>Toutes les tâches liées à ce hub seront supprimées de cet ordinateur. Les fichiers seront conservés. Voulez-vous continuer&#xa0;?</translation>
+        <translation>Toutes les tâches liées à ce hub seront retirées de cet ordinateur. Les fichiers seront conservés. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>The backup failed. Please try again.</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Mode de sauvegarde</translation>
     </message>
     <message>
@@ -4285,9 +4137,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Connexion</translation>
     </message>
     <message>
@@ -4303,7 +4153,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Show removed items</source>
         <extracomment>Tooltip of a button.</extracomment>
-        <translation>Afficher les éléments supprimés</translation>
+        <translation>Afficher les éléments retirés</translation>
     </message>
     <message>
         <source>Used</source>
@@ -4367,7 +4217,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Tâches de synchro</translation>
+        <translation>Tâches de synchronisation</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>La version de Tessaly Server sur le hub est trop ancienne pour %1. Veuillez demander à votre administrateur de la mettre à jour.</translation>
+        <translation>La version de Tessaly Server sur le hub est trop ancienne pour %1. Veuillez demander à votre administrateur d&apos;effectuer la mise à jour.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4494,12 +4344,12 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Are you sure you want to remove the link? It cannot be restored.</source>
-        <translation>Voulez-vous vraiment supprimer le lien&#xa0;? Il ne pourra pas être restauré.</translation>
+        <translation>Voulez-vous vraiment retirer le lien&#xa0;? Il ne pourra pas être restauré.</translation>
     </message>
     <message>
         <source>Remove this link?</source>
         <extracomment>Heading of a question; the link is a URL.</extracomment>
-        <translation>Supprimer ce lien&#xa0;?</translation>
+        <translation>Retirer ce lien&#xa0;?</translation>
     </message>
     <message>
         <source>Save the logs of the client to a file that you can send to technical support.</source>
@@ -4514,7 +4364,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Remove link</source>
         <extracomment>Button: takes a link (URL) away (verb).</extracomment>
-        <translation>Supprimer le lien</translation>
+        <translation>Retirer le lien</translation>
     </message>
     <message>
         <source>Troubleshooting</source>
@@ -4605,7 +4455,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>On-demand sync could not be enabled for this task.</source>
-        <translation>La synchro à la demande n&apos;a pas pu être activée pour cette tâche.</translation>
+        <translation>La synchronisation à la demande n&apos;a pas pu être activée pour cette tâche.</translation>
     </message>
     <message>
         <source>The connection to the hub failed. Please check the address and your network.</source>
@@ -4613,8 +4463,8 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
-        <translation>:</translation>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
+        <translation>&#xa0;:</translation>
     </message>
     <message>
         <source>File added</source>
@@ -4706,7 +4556,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Files stay on the hub until you open them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Learn more about on-demand sync&lt;/a&gt;</source>
         <extracomment>Tooltip: the link is to be kept as it is.</extracomment>
-        <translation>Les fichiers restent sur le hub jusqu&apos;à ce que vous les ouvriez. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;En savoir plus sur la synchro à la demande&lt;/a&gt;</translation>
+        <translation>Les fichiers restent sur le hub jusqu&apos;à ce que vous les ouvriez. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;En savoir plus sur la synchronisation à la demande&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Custom task name</source>
@@ -4719,7 +4569,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>On-demand sync can be turned on or off in the settings of the task.</source>
-        <translation>La synchro à la demande peut être activée ou désactivée dans les paramètres de la tâche.</translation>
+        <translation>La synchronisation à la demande peut être activée ou désactivée dans les paramètres de la tâche.</translation>
     </message>
     <message>
         <source>This is a required field.</source>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Törölve</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Leválasztás</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Kapcsolódás a Ferrylink szolgáltatással</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Hiba</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Befejezés</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Helyi mappa</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Letöltve</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Mégse</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Tovább</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Vissza</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Feltöltve</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Testreszabás</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Idő</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>A hubon lévő tárhelykvótája betelt. Szabadítson fel helyet, majd próbálja újra.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Beállítások</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Megosztott mappák</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Jelszó</translation>
     </message>
     <message>
@@ -389,7 +341,7 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Synchronization could not be enabled for the shared folder.</source>
-        <translation>A megosztott mappa szinkronizálását nem sikerült bekapcsolni.</translation>
+        <translation>A megosztott mappa szinkronizálását nem sikerült engedélyezni.</translation>
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Please choose another one.</source>
@@ -416,7 +368,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Set up the proxy server manually</source>
         <extracomment>Choice, third of three: none, the system&apos;s, manual.</extracomment>
-        <translation>A proxykiszolgáló kézi beállítása</translation>
+        <translation>A proxykiszolgáló kézi konfigurálása</translation>
     </message>
     <message>
         <source>There are no changes to apply.</source>
@@ -425,7 +377,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Enable synchronization</source>
         <extracomment>Check box for a shared folder: it is synced.</extracomment>
-        <translation>Szinkronizálás bekapcsolása</translation>
+        <translation>Szinkronizálás engedélyezése</translation>
     </message>
     <message>
         <source>Shared folder name</source>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Állapot</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Alkalmaz</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Kezelés</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Hiba történt</translation>
     </message>
     <message>
@@ -493,23 +437,21 @@ Status, short, of a task: an unexpected error.</extracomment>
     <message>
         <source>Show sync status icons on files and folders</source>
         <extracomment>Check box of the general options.</extracomment>
-        <translation>A szinkronállapot ikonjainak megjelenítése a fájlokon és mappákon</translation>
+        <translation>A szinkronizálási állapot ikonjainak megjelenítése a fájlokon és mappákon</translation>
     </message>
     <message>
         <source>Options</source>
         <extracomment>Tab of the settings.</extracomment>
-        <translation>Beállítások</translation>
+        <translation>Opciók</translation>
     </message>
     <message>
         <source>General options</source>
         <extracomment>Heading of the general page of the settings.</extracomment>
-        <translation>Általános beállítások</translation>
+        <translation>Általános opciók</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Fekete-fehér ikon használata a tálcán</translation>
     </message>
     <message>
@@ -529,12 +471,12 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Automatic setup failed. Please set up the connection manually.</source>
-        <translation>Az automatikus beállítás sikertelen. Állítsa be a kapcsolatot kézzel.</translation>
+        <translation>Az automatikus konfigurálás sikertelen. Konfigurálja a kapcsolatot kézzel.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
         <extracomment>Status: last step of the automatic set-up of the client (not of the installer).</extracomment>
-        <translation>A beállítás befejezése...</translation>
+        <translation>A konfigurálás befejezése...</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -587,7 +529,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>This setup key has already been used. Please request a new one from your administrator.</source>
-        <translation>Ezt a beállítási kulcsot már felhasználták. Kérjen újat a rendszergazdától.</translation>
+        <translation>Ezt a konfigurálási kulcsot már felhasználták. Kérjen újat a rendszergazdától.</translation>
     </message>
     <message>
         <source>The new language takes effect after you restart the application.</source>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Mappa</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Eltávolítás</translation>
     </message>
     <message>
@@ -631,19 +561,17 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     <message>
         <source>Destination</source>
         <extracomment>Column head of the list of files: the folder that a file goes to.</extracomment>
-        <translation>Cél</translation>
+        <translation>Célhely</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Előkészítés...</translation>
     </message>
     <message>
         <source>Uploading...</source>
         <extracomment>Status: state of a file.</extracomment>
-        <translation>Feltöltés...</translation>
+        <translation>Feltöltés folyamatban...</translation>
     </message>
     <message>
         <source>System default</source>
@@ -663,7 +591,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>Downloading...</source>
         <extracomment>Status: state of a file.</extracomment>
-        <translation>Letöltés...</translation>
+        <translation>Letöltés folyamatban...</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Szinkronizálási mód</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Szüneteltetve</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Nincs jogosultság</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Hivatkozás kérése</translation>
     </message>
     <message>
@@ -827,25 +745,13 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Szüneteltetés</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
-        <translation>Folytatás</translation>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
+        <translation>Szüneteltetés feloldása</translation>
     </message>
     <message>
         <source>Exclusion rules</source>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Művelet</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Fájlnév</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Méret</translation>
     </message>
     <message>
@@ -881,12 +781,12 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Disabled</source>
         <extracomment>Status of a shared folder: its sync is turned off.</extracomment>
-        <translation>Kikapcsolva</translation>
+        <translation>Letiltva</translation>
     </message>
     <message>
         <source>Enabled</source>
         <extracomment>Status of a shared folder: its sync is turned on.</extracomment>
-        <translation>Bekapcsolva</translation>
+        <translation>Engedélyezve</translation>
     </message>
     <message>
         <source>If you stop syncing this shared folder, later changes will not be transferred. The local files will be kept.</source>
@@ -896,7 +796,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Enable SSL encryption</source>
         <extracomment>Check box of the connection settings.</extracomment>
-        <translation>SSL-titkosítás bekapcsolása</translation>
+        <translation>SSL-titkosítás engedélyezése</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to sync with the hub.</source>
@@ -949,7 +849,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>This folder is already part of a Tessaly backup task. Please choose another folder.</source>
-        <translation>Ez a mappa már része a Tessaly egyik mentési feladatának. Válasszon másik mappát.</translation>
+        <translation>Ez a mappa már része a Tessaly egyik biztonsági mentési feladatának. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>This task is inactive because the hub cannot be reached.</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Az alkalmazások nyitva hagyása. A telepítés után újra kell indítani a számítógépet.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Korábbi verziók tallózása</translation>
     </message>
     <message>
@@ -1108,19 +1006,17 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Az alábbi alkalmazások olyan fájlokat tartanak nyitva, amelyeket a [ProductName] telepítőjének le kell cserélnie:</translation>
     </message>
     <message>
         <source>Sync activity</source>
         <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
-        <translation>Szinkrontevékenység</translation>
+        <translation>Szinkronizálási tevékenység</translation>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Javítás</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Igen</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Az alkalmazások bezárása most és újbóli megnyitása a telepítés végén.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Módosítás</translation>
     </message>
     <message>
@@ -1282,7 +1174,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Synchronization enabled</source>
         <extracomment>Status of a shared folder.</extracomment>
-        <translation>A szinkronizálás bekapcsolva</translation>
+        <translation>A szinkronizálás engedélyezve</translation>
     </message>
     <message>
         <source>Add task</source>
@@ -1316,12 +1208,12 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
-        <translation>Az Ön fiókjában a megosztás ki van kapcsolva.</translation>
+        <translation>Az Ön fiókjában a megosztás le van tiltva.</translation>
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
         <extracomment>Message: %1 is the task&apos;s name.</extracomment>
-        <translation>A(z) „%1” feladat leáll, és a hubbal való kapcsolata törlődik. A fájlok mindkét oldalon megmaradnak.</translation>
+        <translation>A(z) „%1” feladat leáll, és a program eltávolítja a hubbal való kapcsolatát. A fájlok mindkét oldalon megmaradnak.</translation>
     </message>
     <message>
         <source>Open containing folder</source>
@@ -1376,23 +1268,21 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
-        <translation>A Ferrylinken keresztüli fájlmegosztás ki van kapcsolva a hubon. Forduljon a rendszergazdához.</translation>
+        <translation>A Ferrylinken keresztüli fájlmegosztás le van tiltva a hubon. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Tegnap</translation>
     </message>
     <message>
         <source>Choose how you want to set up Tessaly.</source>
-        <translation>Válassza ki, hogyan szeretné beállítani a Tessaly alkalmazást.</translation>
+        <translation>Válassza ki, hogyan szeretné konfigurálni a Tessaly alkalmazást.</translation>
     </message>
     <message>
         <source>Quick setup</source>
         <extracomment>Choice of the wizard, first of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Gyors beállítás</translation>
+        <translation>Gyors konfigurálás</translation>
     </message>
     <message>
         <source>Items %1 to %2 of %3</source>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 órával ezelőtt</translation>
+        <translation>%1&#xa0;órával ezelőtt</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Átnevezve</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 nappal ezelőtt</translation>
+        <translation>%1&#xa0;nappal ezelőtt</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 perccel ezelőtt</translation>
+        <translation>%1&#xa0;perccel ezelőtt</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Fájl</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Típus</translation>
     </message>
     <message>
@@ -1604,10 +1488,8 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Speciális beállítás</translation>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <translation>Speciális konfigurálás</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1625,7 +1507,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup is complete</source>
         <extracomment>Heading of the wizard&apos;s last page: the client is set up (not the installer).</extracomment>
-        <translation>A beállítás befejeződött</translation>
+        <translation>A konfigurálás befejeződött</translation>
     </message>
     <message>
         <source>Put files into the synced folder, and they appear on the hub and on all your other computers.</source>
@@ -1638,7 +1520,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup mode</source>
         <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
-        <translation>Beállítási mód</translation>
+        <translation>Konfigurálási mód</translation>
     </message>
     <message>
         <source>No, thanks</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Felhasználónév</translation>
     </message>
     <message>
@@ -1684,7 +1564,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>This file does not belong to a sync task.</source>
-        <translation>Ez a fájl egyik szinkronfeladathoz sem tartozik.</translation>
+        <translation>Ez a fájl egyik szinkronizálási feladathoz sem tartozik.</translation>
     </message>
     <message>
         <source>Open main window</source>
@@ -1704,7 +1584,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Új szinkronfeladat</translation>
+        <translation>Új szinkronizálási feladat</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>A(z) %1 MB-nál nagyobb fájlokat a program nem szinkronizálja.</translation>
+        <translation>A(z) %1&#xa0;MB-nál nagyobb fájlokat a program nem szinkronizálja.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1732,7 +1612,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Search the local network for hubs</source>
         <extracomment>Tooltip of the button that searches.</extracomment>
-        <translation>Hubok keresése a helyi hálózaton</translation>
+        <translation>Hubok felkutatása a helyi hálózaton</translation>
     </message>
     <message>
         <source>You only have read access to this shared folder. Files will be downloaded but not uploaded.</source>
@@ -1797,7 +1677,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>The IP address of this computer is blocked by the hub. Please contact your administrator.</source>
-        <translation>A hub letiltotta a számítógép IP-címét. Forduljon a rendszergazdához.</translation>
+        <translation>A hub blokkolja a számítógép IP-címét. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>When a file was changed on both sides:</source>
@@ -1807,7 +1687,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Welcome to the setup wizard</source>
         <extracomment>Heading of the wizard&apos;s first page.</extracomment>
-        <translation>Üdvözli a beállítási varázsló</translation>
+        <translation>Üdvözli a konfigurálási varázsló</translation>
     </message>
     <message>
         <source>Last page</source>
@@ -1832,7 +1712,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Unlinking...</source>
         <extracomment>Status, shown while this computer&apos;s link to the hub is being ended.</extracomment>
-        <translation>Leválasztás...</translation>
+        <translation>Leválasztás folyamatban...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
@@ -1877,7 +1757,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>The folder is already used by another sync task on this computer.</source>
-        <translation>A mappát már használja egy másik szinkronfeladat ezen a számítógépen.</translation>
+        <translation>A mappát már használja egy másik szinkronizálási feladat ezen a számítógépen.</translation>
     </message>
     <message>
         <source>%1 requested access to the Bureau template &quot;%2&quot;.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Szinkronizálás</translation>
     </message>
     <message>
@@ -1997,7 +1875,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Sync task for the files that others share with you</source>
         <extracomment>Screen reader: describes a task.</extracomment>
-        <translation>A mások által Önnel megosztott fájlok szinkronfeladata</translation>
+        <translation>A mások által Önnel megosztott fájlok szinkronizálási feladata</translation>
     </message>
     <message>
         <source>Recently changed files tab</source>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2057,7 +1933,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>The hub requires 2-factor authentication. Please set it up in the web portal and sign in again.</source>
-        <translation>A hub kétfaktoros hitelesítést igényel. Állítsa be a webportálon, majd jelentkezzen be ismét.</translation>
+        <translation>A hub kétfaktoros hitelesítést igényel. Konfigurálja a webportálon, majd jelentkezzen be ismét.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is used up.</source>
@@ -2080,7 +1956,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Only shared folders that have been enabled in Tessaly Server are listed here.</source>
-        <translation>Itt csak a Tessaly Server alkalmazásban bekapcsolt megosztott mappák láthatók.</translation>
+        <translation>Itt csak a Tessaly Server alkalmazásban engedélyezett megosztott mappák láthatók.</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
@@ -2141,7 +2017,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
         <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
-        <translation>A felhasználók saját mappáit kezelő szolgáltatás ki van kapcsolva a hubon. Forduljon a rendszergazdához.</translation>
+        <translation>A felhasználók saját mappáit kezelő szolgáltatás le van tiltva a hubon. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>„%1” szinkronfeladat</translation>
+        <translation>„%1” szinkronizálási feladat</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>A hub mappája</translation>
     </message>
     <message>
@@ -2319,7 +2193,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>The Ferrylink relay service is disabled on the hub.</source>
-        <translation>A Ferrylink közvetítési szolgáltatása ki van kapcsolva a hubon.</translation>
+        <translation>A Ferrylink közvetítési szolgáltatása le van tiltva a hubon.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Értesítések</translation>
     </message>
     <message>
@@ -2352,7 +2222,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Set up</source>
         <extracomment>Button: begins to set up what is named beside it (verb).</extracomment>
-        <translation>Beállítás</translation>
+        <translation>Konfigurálás</translation>
     </message>
     <message>
         <source>Open synced folder</source>
@@ -2433,7 +2303,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Only shared folders that have been enabled in %1 are listed here.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Itt csak a következő alkalmazásban bekapcsolt megosztott mappák láthatók: %1.</translation>
+        <translation>Itt csak a %1 alkalmazásban engedélyezett megosztott mappák láthatók.</translation>
     </message>
     <message>
         <source>Start %1 when I sign in to this computer</source>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Eltérő verziók</translation>
     </message>
     <message>
@@ -2485,12 +2353,12 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Csak a módosítások letöltése innen: %1</translation>
+        <translation>Csak letöltés (módosítások innen: %1)</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>A %1 be van állítva. A munka megkezdéséhez nyissa meg a mappáját.</translation>
+        <translation>A %1 konfigurálása kész. A munka megkezdéséhez nyissa meg a mappáját.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to Tessaly</source>
@@ -2504,7 +2372,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Set up %1 to sync and back up the files on this computer.</source>
         <extracomment>Message of the wizard; %1 is a product name.</extracomment>
-        <translation>Állítsa be a %1 alkalmazást a számítógépen lévő fájlok szinkronizálásához és biztonsági mentéséhez.</translation>
+        <translation>Konfigurálja a %1 alkalmazást a számítógépen lévő fájlok szinkronizálásához és biztonsági mentéséhez.</translation>
     </message>
     <message>
         <source>Almost done! Your files will soon be available in Tessaly Server.</source>
@@ -2591,7 +2459,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Setup is complete. Your files are now being synced.</source>
-        <translation>A beállítás befejeződött. A fájlok szinkronizálása folyamatban van.</translation>
+        <translation>A konfigurálás befejeződött. A fájlok szinkronizálása folyamatban van.</translation>
     </message>
     <message>
         <source>Click the tray icon at any time to see the status and change the settings.</source>
@@ -2608,7 +2476,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly is set up. Open your folder to start working.</source>
-        <translation>A Tessaly be van állítva. A munka megkezdéséhez nyissa meg a mappáját.</translation>
+        <translation>A Tessaly konfigurálása kész. A munka megkezdéséhez nyissa meg a mappáját.</translation>
     </message>
     <message>
         <source>You only have read access to this folder. Tessaly will not upload your changes.</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Nincs elég hely ezen a lemezen. A Tessaly működéséhez legalább %1 MB szükséges.</translation>
+        <translation>Nincs elég hely ezen a lemezen. A Tessaly működéséhez legalább %1&#xa0;MB szükséges.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2653,7 +2521,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Set up Tessaly to sync the files on this computer.</source>
-        <translation>Állítsa be a Tessaly alkalmazást a számítógépen lévő fájlok szinkronizálásához.</translation>
+        <translation>Konfigurálja a Tessaly alkalmazást a számítógépen lévő fájlok szinkronizálásához.</translation>
     </message>
     <message>
         <source>New to Tessaly? Read the &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
@@ -2735,18 +2603,16 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Letöltés</translation>
     </message>
     <message>
         <source>Public sharing is disabled on the hub.</source>
-        <translation>A nyilvános megosztás ki van kapcsolva a hubon.</translation>
+        <translation>A nyilvános megosztás le van tiltva a hubon.</translation>
     </message>
     <message>
         <source>Sharing is disabled. Please contact your administrator.</source>
-        <translation>A megosztás ki van kapcsolva. Forduljon a rendszergazdához.</translation>
+        <translation>A megosztás le van tiltva. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Megosztás</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>A fájlok megtartása a hubon, ha erről a számítógépről törlik őket</translation>
     </message>
     <message>
@@ -2958,12 +2820,12 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Enable later</source>
         <extracomment>Choice of the wizard, second of two: files that others share with the user.</extracomment>
-        <translation>Bekapcsolás később</translation>
+        <translation>Engedélyezés később</translation>
     </message>
     <message>
         <source>Enable now</source>
         <extracomment>Choice of the wizard, first of two: files that others share with the user.</extracomment>
-        <translation>Bekapcsolás most</translation>
+        <translation>Engedélyezés most</translation>
     </message>
     <message>
         <source>Files shared with you</source>
@@ -2973,7 +2835,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Create a sync task</source>
         <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
-        <translation>Szinkronfeladat létrehozása</translation>
+        <translation>Szinkronizálási feladat létrehozása</translation>
     </message>
     <message>
         <source>My files and team folders</source>
@@ -3010,7 +2872,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Csak a módosítások letöltése innen: Tessaly Server</translation>
+        <translation>Csak letöltés (módosítások innen: Tessaly Server)</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Mindig maradjon ezen a számítógépen</translation>
     </message>
     <message>
@@ -3109,7 +2969,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Szinkronfeladat</translation>
+        <translation>Szinkronizálási feladat</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -3124,17 +2984,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Files are backed up at the times that you set.</source>
         <extracomment>Message of a choice.</extracomment>
-        <translation>A biztonsági mentés az Ön által megadott időpontokban készül.</translation>
+        <translation>A fájlok biztonsági mentése az Ön által megadott időpontokban készül.</translation>
     </message>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>A biztonsági mentés befejeződött. A számítógép %1 másodperc múlva leáll.</translation>
+        <translation>A biztonsági mentés befejeződött. A számítógép %1&#xa0;másodperc múlva leáll.</translation>
     </message>
     <message>
         <source>Backup task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Mentési feladat</translation>
+        <translation>Biztonsági mentési feladat</translation>
     </message>
     <message>
         <source>Run on the following days</source>
@@ -3168,7 +3028,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Utolsó befejezési idő</translation>
+        <translation>Utolsó befejezés ideje</translation>
     </message>
     <message>
         <source>Last run time</source>
@@ -3217,12 +3077,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup destination</source>
         <extracomment>Label beside the path of the folder on the hub that backups are stored in (a place, not a purpose).</extracomment>
-        <translation>Biztonsági mentés célja</translation>
+        <translation>Biztonsági mentés célhelye</translation>
     </message>
     <message>
         <source>Files are backed up when you click Back up now.</source>
         <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
-        <translation>A biztonsági mentés a Mentés most gombra kattintva készül el.</translation>
+        <translation>A fájlok biztonsági mentése a „Biztonsági mentés most” gombra kattintva készül el.</translation>
     </message>
     <message>
         <source>Allow downloads</source>
@@ -3237,7 +3097,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup schedule</source>
         <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
-        <translation>Mentési ütemezés</translation>
+        <translation>Biztonsági mentés ütemezése</translation>
     </message>
     <message>
         <source>Manager</source>
@@ -3252,7 +3112,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Create a backup task</source>
         <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
-        <translation>Mentési feladat létrehozása</translation>
+        <translation>Biztonsági mentési feladat létrehozása</translation>
     </message>
     <message>
         <source>Files whose names or extensions are listed here will be skipped.</source>
@@ -3278,7 +3138,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
         <extracomment>Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.</extracomment>
-        <translation>%1 fájl (%2) mentve; cél: „%3”, idő: %4</translation>
+        <translation>%1 fájl (%2) biztonsági mentése elkészült; célhely: „%3”, dátum: %4</translation>
     </message>
     <message>
         <source>History</source>
@@ -3378,7 +3238,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The hub has blocked the IP address of this computer. Please contact your administrator.</source>
-        <translation>A hub letiltotta a számítógép IP-címét. Forduljon a rendszergazdához.</translation>
+        <translation>A hub blokkolta a számítógép IP-címét. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>The SSL certificate of the hub is not valid. Please contact your administrator.</source>
@@ -3439,7 +3299,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
-        <translation>A biztonsági mentés leállt, mert a hub letiltotta a számítógép IP-címét.</translation>
+        <translation>A biztonsági mentés leállt, mert a hub blokkolta a számítógép IP-címét.</translation>
     </message>
     <message>
         <source>The backup has stopped because the package on the hub is too old for this client.</source>
@@ -3479,7 +3339,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Set up your sync folders</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Szinkronizált mappák beállítása</translation>
+        <translation>Szinkronizált mappák konfigurálása</translation>
     </message>
     <message>
         <source>Please free up some space on the disk of this computer.</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Csak a módosítások feltöltése ide: %1</translation>
+        <translation>Csak feltöltés (módosítások ide: %1)</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3534,21 +3394,21 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Home folder disabled</source>
         <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
-        <translation>A saját mappa ki van kapcsolva</translation>
+        <translation>A saját mappa le van tiltva</translation>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>H</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Cs</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Szo</translation>
     </message>
     <message>
@@ -3576,7 +3436,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Almost done! Your files will soon be available in %1.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Már majdnem kész! A fájljai hamarosan elérhetők lesznek itt: %1.</translation>
+        <translation>Már majdnem kész! A fájljai hamarosan elérhetők lesznek a %1 alkalmazásban.</translation>
     </message>
     <message>
         <source>Enter 0 to set no limit.</source>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>P</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>V</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>K</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sze</translation>
     </message>
     <message>
@@ -3687,12 +3547,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Next backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Következő mentés: %1</translation>
+        <translation>Következő biztonsági mentés: %1</translation>
     </message>
     <message>
         <source>Backup plan</source>
         <extracomment>Label of a task: on which days and at which times, as a whole; not the same as &quot;Backup schedule&quot;.</extracomment>
-        <translation>Mentési terv</translation>
+        <translation>Biztonsági mentési terv</translation>
     </message>
     <message>
         <source>Sharing link</source>
@@ -3707,7 +3567,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup tasks require %1 %2 or later on the hub. The installed version is %3.</source>
         <extracomment>Message: %1 is a product name, %2 and %3 are version numbers.</extracomment>
-        <translation>A mentési feladatokhoz legalább %1 %2 szükséges a hubon. A telepített verzió: %3.</translation>
+        <translation>A biztonsági mentési feladatokhoz legalább %1 %2 szükséges a hubon. A telepített verzió: %3.</translation>
     </message>
     <message>
         <source>This computer is already linked to this hub with the same account.</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Naprakész</translation>
     </message>
     <message>
@@ -3821,7 +3679,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Please ask your administrator to update %1 on the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Kérje meg a rendszergazdát, hogy frissítse a hubon a következőt: %1.</translation>
+        <translation>Kérje meg a rendszergazdát, hogy frissítse a hubon a %1 alkalmazást.</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; will be created at this location.</source>
@@ -3868,12 +3726,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Enable on-demand sync</source>
         <extracomment>Check box of a task&apos;s settings.</extracomment>
-        <translation>Igényalapú szinkronizálás bekapcsolása</translation>
+        <translation>Igényalapú szinkronizálás engedélyezése</translation>
     </message>
     <message>
         <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
         <extracomment>Message: %1 is the folder&apos;s name.</extracomment>
-        <translation>Az igényalapú szinkronizálás mappája („%1”) hiányzik. Állítsa be ismét a feladatot.</translation>
+        <translation>Az igényalapú szinkronizálás mappája („%1”) hiányzik. Konfigurálja ismét a feladatot.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
@@ -3883,7 +3741,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Try on-demand sync</source>
         <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
-        <translation>Szinkronizáljon igény szerint</translation>
+        <translation>Igényalapú szinkronizálás kipróbálása</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Hely felszabadítva</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Elérhetővé téve ezen a számítógépen</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Nincs elég hely ezen a lemezen. A %1 működéséhez legalább %2 MB szükséges.</translation>
+        <translation>Nincs elég hely ezen a lemezen. A %1 működéséhez legalább %2&#xa0;MB szükséges.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3951,7 +3805,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>If you turn this off, the folder with the files that others share with you will be removed from this computer. Do you want to continue?</source>
-        <translation>Ha ezt kikapcsolja, a mások által Önnel megosztott fájlok mappája törlődik erről a számítógépről. Folytatja?</translation>
+        <translation>Ha ezt kikapcsolja, a program eltávolítja erről a számítógépről a mások által Önnel megosztott fájlok mappáját. Folytatja?</translation>
     </message>
     <message>
         <source>Sync the files that others share with you, so that you can open them like your own.</source>
@@ -3960,7 +3814,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Enable on-demand sync for this task</source>
         <extracomment>Check box of the wizard.</extracomment>
-        <translation>Igényalapú szinkronizálás bekapcsolása ehhez a feladathoz</translation>
+        <translation>Igényalapú szinkronizálás engedélyezése ehhez a feladathoz</translation>
     </message>
     <message>
         <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
@@ -3972,7 +3826,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Your disk is filling up. Enable on-demand sync to free up space.</source>
-        <translation>A lemez hamarosan megtelik. Kapcsolja be az igényalapú szinkronizálást, hogy helyet szabadítson fel.</translation>
+        <translation>A lemez hamarosan megtelik. Engedélyezze az igényalapú szinkronizálást, hogy helyet szabadítson fel.</translation>
     </message>
     <message>
         <source>Everything that others share with you, in one folder</source>
@@ -3994,7 +3848,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The destination is already used by another backup task. Please choose another folder.</source>
-        <translation>A célt már használja egy másik mentési feladat. Válasszon másik mappát.</translation>
+        <translation>A célhelyet már használja egy másik biztonsági mentési feladat. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
@@ -4022,7 +3876,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Start the tour</source>
         <extracomment>Button on the first page of the tutorial.</extracomment>
-        <translation>Bemutató indítása</translation>
+        <translation>Ismertető indítása</translation>
     </message>
     <message>
         <source>New to %1? Read the &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
@@ -4117,7 +3971,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Syncing...</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Szinkronizálás...</translation>
+        <translation>Szinkronizálás folyamatban...</translation>
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
@@ -4181,7 +4035,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Operation</source>
         <extracomment>Column head of a list: what can be done with an entry (noun).</extracomment>
-        <translation>Művelet</translation>
+        <translation>Műveletek</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist.</source>
@@ -4217,10 +4071,8 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
-        <translation>Mentési mód</translation>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <translation>Biztonsági mentés módja</translation>
     </message>
     <message>
         <source>Do you want to start the backup now?</source>
@@ -4237,7 +4089,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Last backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Utolsó mentés: %1</translation>
+        <translation>Utolsó biztonsági mentés: %1</translation>
     </message>
     <message>
         <source>Every day</source>
@@ -4247,7 +4099,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Manual backup</source>
         <extracomment>Choice of the backup mode (noun): runs when the user starts it.</extracomment>
-        <translation>Kézi mentés</translation>
+        <translation>Kézi biztonsági mentés</translation>
     </message>
     <message>
         <source>Once a day</source>
@@ -4257,17 +4109,17 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Continuous backup</source>
         <extracomment>Choice of the backup mode (noun): runs as soon as a file changes.</extracomment>
-        <translation>Folyamatos mentés</translation>
+        <translation>Folyamatos biztonsági mentés</translation>
     </message>
     <message>
         <source>Scheduled backup</source>
         <extracomment>Choice of the backup mode (noun): runs at set times.</extracomment>
-        <translation>Ütemezett mentés</translation>
+        <translation>Ütemezett biztonsági mentés</translation>
     </message>
     <message>
         <source>Set the backup plan</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>A mentési terv beállítása</translation>
+        <translation>A biztonsági mentési terv beállítása</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
@@ -4276,18 +4128,16 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>The backup plan could not be saved. Please try again.</source>
-        <translation>A mentési tervet nem sikerült elmenteni. Próbálja újra.</translation>
+        <translation>A biztonsági mentési tervet nem sikerült menteni. Próbálja újra.</translation>
     </message>
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Adjon meg egy 0 és %1 MB közötti méretet. A 0 érték azt jelenti, hogy nincs korlát.</translation>
+        <translation>Adjon meg egy 0 és %1&#xa0;MB közötti méretet. A 0 érték azt jelenti, hogy nincs korlát.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Kapcsolat</translation>
     </message>
     <message>
@@ -4362,12 +4212,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Backup tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Mentési feladatok</translation>
+        <translation>Biztonsági mentési feladatok</translation>
     </message>
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Szinkronfeladatok</translation>
+        <translation>Szinkronizálási feladatok</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4382,7 +4232,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Back up now</source>
         <extracomment>Button: starts the backup at once (verb).</extracomment>
-        <translation>Mentés most</translation>
+        <translation>Biztonsági mentés most</translation>
     </message>
     <message>
         <source>Files</source>
@@ -4412,7 +4262,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>This folder is already part of a backup task of %1. Please choose another folder.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Ez a mappa már része a %1 egyik mentési feladatának. Válasszon másik mappát.</translation>
+        <translation>Ez a mappa már része a %1 egyik biztonsági mentési feladatának. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>This folder is already synced by Kelvane Quay Client and cannot be backed up as well. Please choose another folder.</source>
@@ -4431,7 +4281,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Open sync status</source>
         <extracomment>Menu item in the tray menu: opens the page with the state of the tasks.</extracomment>
-        <translation>Szinkronállapot megnyitása</translation>
+        <translation>Szinkronizálási állapot megnyitása</translation>
     </message>
     <message>
         <source>Replies</source>
@@ -4470,12 +4320,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Enable advanced sharing</source>
         <extracomment>Check box for an item.</extracomment>
-        <translation>Speciális megosztás bekapcsolása</translation>
+        <translation>Speciális megosztás engedélyezése</translation>
     </message>
     <message>
         <source>Enable link protection</source>
         <extracomment>Check box for an item: password and validity of its link (URL).</extracomment>
-        <translation>Hivatkozásvédelem bekapcsolása</translation>
+        <translation>Hivatkozásvédelem engedélyezése</translation>
     </message>
     <message>
         <source>is now shared with advanced settings.</source>
@@ -4589,11 +4439,11 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>%1 MB-nál kisebb méretet adjon meg.</translation>
+        <translation>%1&#xa0;MB-nál kisebb méretet adjon meg.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
-        <translation>Ez a mappa már része egy másik mentési feladatnak. Válasszon másik mappát.</translation>
+        <translation>Ez a mappa már része egy másik biztonsági mentési feladatnak. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>The task has stopped because of an unexpected error. Please restart the application.</source>
@@ -4605,7 +4455,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>On-demand sync could not be enabled for this task.</source>
-        <translation>Az igényalapú szinkronizálást nem sikerült bekapcsolni ehhez a feladathoz.</translation>
+        <translation>Az igényalapú szinkronizálást nem sikerült engedélyezni ehhez a feladathoz.</translation>
     </message>
     <message>
         <source>The connection to the hub failed. Please check the address and your network.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4636,7 +4486,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>The hub is now able to index your entire home folder.</source>
         <extracomment>Message: the home folder is the user&apos;s, not the hub&apos;s.</extracomment>
-        <translation>A hub mostantól a teljes saját mappáját indexelni tudja.</translation>
+        <translation>A hub mostantól indexelni tudja az Ön teljes saját mappáját.</translation>
     </message>
     <message>
         <source>You can now sync your entire home folder with this computer.</source>
@@ -4650,12 +4500,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Norvik disabled</source>
         <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
-        <translation>A Norvik kikapcsolva</translation>
+        <translation>A Norvik le van tiltva</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
         <extracomment>Message: the home folder is the user&apos;s, not the hub&apos;s.</extracomment>
-        <translation>A hub előkészíti a saját mappáját. Próbálja újra később.</translation>
+        <translation>A hub előkészíti az Ön saját mappáját. Próbálja újra később.</translation>
     </message>
     <message>
         <source>File renamed</source>
@@ -4674,7 +4524,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Norvik is disabled on the hub. Please contact your administrator.</source>
-        <translation>A Norvik ki van kapcsolva a hubon. Forduljon a rendszergazdához.</translation>
+        <translation>A Norvik le van tiltva a hubon. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Eliminato</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Scollega</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Connetti tramite Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Errore</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Fine</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Cartella locale</translation>
     </message>
     <message>
@@ -80,7 +64,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     <message>
         <source>About</source>
         <extracomment>Menu item in the tray menu: opens the box with the version and the copyright.</extracomment>
-        <translation>Informazioni</translation>
+        <translation>Informazioni su</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Scaricato</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Avanti</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Indietro</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Caricato</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Personalizza</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Ora</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>La quota di archiviazione sull&apos;hub è esaurita. Liberare spazio e riprovare.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Impostazioni</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Cartelle condivise</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Password</translation>
     </message>
     <message>
@@ -380,7 +332,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Storage full</source>
         <extracomment>Status, short, in the tray: the user&apos;s space on the hub is used up.</extracomment>
-        <translation>Spazio esaurito</translation>
+        <translation>Spazio di archiviazione esaurito</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -425,7 +377,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Enable synchronization</source>
         <extracomment>Check box for a shared folder: it is synced.</extracomment>
-        <translation>Attiva sincronizzazione</translation>
+        <translation>Attiva la sincronizzazione</translation>
     </message>
     <message>
         <source>Shared folder name</source>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Stato</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Applica</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Gestisci</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Si è verificato un problema</translation>
     </message>
     <message>
@@ -488,7 +432,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     <message>
         <source>Show desktop notifications</source>
         <extracomment>Check box of the general options.</extracomment>
-        <translation>Mostra notifiche sul desktop</translation>
+        <translation>Mostra le notifiche sul desktop</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Utilizza un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Cartella</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Rimuovi</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Preparazione...</translation>
     </message>
     <message>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
-        <translation>Modalità sync</translation>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <translation>Modalità di sincronizzazione</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>In pausa</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Autorizzazione negata</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Ottieni link</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Metti in pausa</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Riprendi</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Azione</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Nome del file</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Dimensione</translation>
     </message>
     <message>
@@ -896,7 +796,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Enable SSL encryption</source>
         <extracomment>Check box of the connection settings.</extracomment>
-        <translation>Attiva crittografia SSL</translation>
+        <translation>Attiva la crittografia SSL</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to sync with the hub.</source>
@@ -905,7 +805,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>has been shared with you.</source>
         <extracomment>Fragment: follows the name of a folder or file in a notification: &quot;Photos has been shared with you.&quot;</extracomment>
-        <translation>è stato condiviso con Lei.</translation>
+        <translation>è stato condiviso con te.</translation>
     </message>
     <message>
         <source>New share</source>
@@ -980,7 +880,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Quando si fa doppio clic sull&apos;icona nell&apos;area di notifica</translation>
+        <translation>Doppio clic sull&apos;icona nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Lascia aperte le applicazioni. In seguito sarà necessario riavviare il computer.</translation>
     </message>
     <message>
@@ -1035,13 +935,11 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Repair [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Ripristina [ProductName]</translation>
+        <translation>Ripara [ProductName]</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Sfoglia le versioni precedenti</translation>
     </message>
     <message>
@@ -1089,7 +987,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Questa procedura guidata consente di modificare, ripristinare o rimuovere [ProductName]. Fare clic su Avanti per continuare o su Annulla per uscire dall&apos;installazione.</translation>
+        <translation>Questa procedura guidata consente di modificare, riparare o rimuovere [ProductName]. Fare clic su Avanti per continuare o su Annulla per uscire dall&apos;installazione.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1108,25 +1006,23 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>In queste applicazioni sono aperti file che il programma di installazione di [ProductName] deve sostituire:</translation>
     </message>
     <message>
         <source>Sync activity</source>
         <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
-        <translation>Andamento sincronizzazione</translation>
+        <translation>Andamento della sincronizzazione</translation>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
-        <translation>Ripristina</translation>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
+        <translation>Ripara</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
         <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
-        <translation>Installazione di [ProductName]</translation>
+        <translation>Installazione di [ProductName] in corso</translation>
     </message>
     <message>
         <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Sì</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Chiudi ora le applicazioni e riaprile al termine dell&apos;installazione.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Modifica</translation>
     </message>
     <message>
@@ -1188,7 +1080,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>You can change, repair, or remove the installed program.</source>
-        <translation>È possibile modificare, ripristinare o rimuovere il programma installato.</translation>
+        <translation>È possibile modificare, riparare o rimuovere il programma installato.</translation>
     </message>
     <message>
         <source>Removes the program and its settings from your computer.</source>
@@ -1222,22 +1114,22 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
-        <translation>Il programma di installazione sta per ripristinare l&apos;applicazione.</translation>
+        <translation>Il programma di installazione sta per riparare l&apos;applicazione.</translation>
     </message>
     <message>
         <source>Ready to repair [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Pronto per ripristinare [ProductName]</translation>
+        <translation>Pronto per riparare [ProductName]</translation>
     </message>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Fare clic su Ripristina per iniziare, su Indietro per scegliere un&apos;altra azione o su Annulla per uscire dall&apos;installazione.</translation>
+        <translation>Fare clic su Ripara per iniziare, su Indietro per scegliere un&apos;altra azione o su Annulla per uscire dall&apos;installazione.</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>L&apos;installazione di [ProductName] è stata interrotta prima del completamento. Il computer non è stato modificato. È possibile eseguire di nuovo l&apos;installazione in qualsiasi momento.</translation>
+        <translation>È stato scelto di uscire dall&apos;installazione prima che [ProductName] venisse installata. Il computer non è stato modificato. È possibile eseguire di nuovo l&apos;installazione in qualsiasi momento.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
@@ -1316,7 +1208,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
-        <translation>La condivisione è disabilitata per questo account.</translation>
+        <translation>La condivisione è disattivata per questo account.</translation>
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
@@ -1326,7 +1218,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Open containing folder</source>
         <extracomment>Menu item: opens the folder that a file lies in.</extracomment>
-        <translation>Apri percorso file</translation>
+        <translation>Apri la cartella contenitore</translation>
     </message>
     <message>
         <source>The address of the file could not be retrieved from the hub.</source>
@@ -1372,17 +1264,15 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Sincronizzazione, condivisione e protezione dei file</translation>
+        <translation>Sincronizza, condividi e proteggi i file</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
-        <translation>La condivisione di file tramite Ferrylink è disabilitata sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>La condivisione di file tramite Ferrylink è disattivata sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Ieri</translation>
     </message>
     <message>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 h fa</translation>
+        <translation>%1&#xa0;h fa</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Rinominato</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 g fa</translation>
+        <translation>%1&#xa0;g fa</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 min fa</translation>
+        <translation>%1&#xa0;min fa</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>File</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
@@ -1560,7 +1444,7 @@ Column head of a list: the kind of file.</extracomment>
     <message>
         <source>Now syncing</source>
         <extracomment>Heading of the list of files that are being synced at present.</extracomment>
-        <translation>In sincronizzazione</translation>
+        <translation>Sincronizzazione in corso</translation>
     </message>
     <message>
         <source>September</source>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>Configurazione avanzata</translation>
     </message>
     <message>
@@ -1638,7 +1520,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Setup mode</source>
         <extracomment>Heading of a wizard page: quick or advanced set-up of the client (not the installer).</extracomment>
-        <translation>Tipo di configurazione</translation>
+        <translation>Modalità di configurazione</translation>
     </message>
     <message>
         <source>No, thanks</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Nome utente</translation>
     </message>
     <message>
@@ -1704,7 +1584,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nuova sincronizzazione</translation>
+        <translation>Nuova attività di sincronizzazione</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>I file di dimensioni superiori a %1 MB non verranno sincronizzati.</translation>
+        <translation>I file di dimensioni superiori a %1&#xa0;MB non verranno sincronizzati.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1802,7 +1682,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Quando un file è stato modificato su entrambi i lati:</translation>
+        <translation>Se un file è cambiato su entrambi i lati:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1859,7 +1739,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Bidirezionale</translation>
+        <translation>Sincronizzazione bidirezionale</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Sincronizzazione</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2071,7 +1947,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync direction</source>
         <extracomment>Label beside a list: two-way sync, upload only, download only.</extracomment>
-        <translation>Direzione sincronizzazione</translation>
+        <translation>Direzione di sincronizzazione</translation>
     </message>
     <message>
         <source>Something went wrong in one of your tasks. Open the main window for details.</source>
@@ -2141,7 +2017,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
         <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
-        <translation>Il servizio cartelle home è disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>Il servizio cartelle home è disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Sincronizzazione “%1”</translation>
+        <translation>Attività di sincronizzazione “%1”</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Cartella sull&apos;hub</translation>
     </message>
     <message>
@@ -2319,7 +2193,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>The Ferrylink relay service is disabled on the hub.</source>
-        <translation>Il servizio relay Ferrylink è disabilitato sull&apos;hub.</translation>
+        <translation>Il servizio relay Ferrylink è disattivato sull&apos;hub.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Notifiche</translation>
     </message>
     <message>
@@ -2448,7 +2318,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>The hub and %1 cannot communicate. Please update both to the latest version.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>L&apos;hub e %1 non possono comunicare. Aggiornarli entrambi alla versione più recente.</translation>
+        <translation>L&apos;hub e %1 non possono comunicare. Aggiornare entrambi alla versione più recente.</translation>
     </message>
     <message>
         <source>This version of %1 is too old for the hub. Please update it.</source>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versioni non corrispondenti</translation>
     </message>
     <message>
@@ -2485,7 +2353,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Scarica solo le modifiche da %1</translation>
+        <translation>Solo download delle modifiche da %1</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per questo client. Chiedere all&apos;amministratore di aggiornarla.</translation>
+        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per questo client. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Lo spazio su questo disco non è sufficiente. Tessaly richiede almeno %1 MB.</translation>
+        <translation>Lo spazio su questo disco non è sufficiente. Tessaly richiede almeno %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2735,18 +2603,16 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Scarica</translation>
     </message>
     <message>
         <source>Public sharing is disabled on the hub.</source>
-        <translation>La condivisione pubblica è disabilitata sull&apos;hub.</translation>
+        <translation>La condivisione pubblica è disattivata sull&apos;hub.</translation>
     </message>
     <message>
         <source>Sharing is disabled. Please contact your administrator.</source>
-        <translation>La condivisione è disabilitata. Contattare l&apos;amministratore.</translation>
+        <translation>La condivisione è disattivata. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2766,7 +2632,7 @@ Button: fetches the file (verb).</extracomment>
     <message>
         <source>%1 shared the Grida spreadsheet &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s; a Grida spreadsheet is a whole file, not one sheet.</extracomment>
-        <translation>%1 ha condiviso con Lei il foglio di calcolo Grida “%2”.</translation>
+        <translation>%1 ha condiviso con te il foglio di calcolo Grida “%2”.</translation>
     </message>
     <message>
         <source>No data</source>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Condividi</translation>
     </message>
     <message>
@@ -2845,7 +2709,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     <message>
         <source>Your computer</source>
         <extracomment>Label below a picture of a tutorial page.</extracomment>
-        <translation>Questo computer</translation>
+        <translation>Il tuo computer</translation>
     </message>
     <message>
         <source>All your files, everywhere</source>
@@ -2874,7 +2738,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     <message>
         <source>mentioned you in</source>
         <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann mentioned you in Plan.txt&quot;.</extracomment>
-        <translation>ha menzionato il Suo nome in</translation>
+        <translation>ti ha menzionato in</translation>
     </message>
     <message>
         <source>requested access to</source>
@@ -2884,12 +2748,12 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     <message>
         <source>%1 shared the file &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con Lei il file “%2”.</translation>
+        <translation>%1 ha condiviso con te il file “%2”.</translation>
     </message>
     <message>
         <source>shared with you</source>
         <extracomment>Fragment in a list of notifications, after a person&apos;s name and before a file&apos;s: &quot;Ann shared with you Plan.txt&quot;.</extracomment>
-        <translation>ha condiviso con Lei</translation>
+        <translation>ha condiviso con te</translation>
     </message>
     <message>
         <source>Shared</source>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Mantieni i file sull&apos;hub quando vengono eliminati da questo computer</translation>
     </message>
     <message>
@@ -2968,7 +2830,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Files shared with you</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>File condivisi con Lei</translation>
+        <translation>File condivisi con te</translation>
     </message>
     <message>
         <source>Create a sync task</source>
@@ -2991,7 +2853,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>The hub and Tessaly cannot communicate. Please update both to the latest version.</source>
-        <translation>L&apos;hub e Tessaly non possono comunicare. Aggiornarli entrambi alla versione più recente.</translation>
+        <translation>L&apos;hub e Tessaly non possono comunicare. Aggiornare entrambi alla versione più recente.</translation>
     </message>
     <message>
         <source>Never miss a change</source>
@@ -3010,7 +2872,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Scarica solo le modifiche da Tessaly Server</translation>
+        <translation>Solo download delle modifiche da Tessaly Server</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
@@ -3037,7 +2899,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>%1 shared the folder &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the folder&apos;s.</extracomment>
-        <translation>%1 ha condiviso con Lei la cartella “%2”.</translation>
+        <translation>%1 ha condiviso con te la cartella “%2”.</translation>
     </message>
     <message>
         <source>%1 (%2) requests %3 access to the folder &quot;%4&quot;.</source>
@@ -3057,12 +2919,12 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>%1 shared the Folia document &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con Lei il documento Folia “%2”.</translation>
+        <translation>%1 ha condiviso con te il documento Folia “%2”.</translation>
     </message>
     <message>
         <source>%1 shared the Pictra presentation &quot;%2&quot; with you.</source>
         <extracomment>Message: %1 is a person&apos;s name, %2 the file&apos;s.</extracomment>
-        <translation>%1 ha condiviso con Lei la presentazione Pictra “%2”.</translation>
+        <translation>%1 ha condiviso con te la presentazione Pictra “%2”.</translation>
     </message>
     <message>
         <source>Privacy settings</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Mantieni sempre su questo computer</translation>
     </message>
     <message>
@@ -3109,7 +2969,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Sincronizzazione</translation>
+        <translation>Attività di sincronizzazione</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -3129,7 +2989,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Il backup è completato. Il computer verrà arrestato tra %1 s.</translation>
+        <translation>Il backup è completato. Il computer verrà arrestato tra %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3168,12 +3028,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Ultima ora di fine</translation>
+        <translation>Fine dell&apos;ultima esecuzione</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>Ultima ora di esecuzione</translation>
+        <translation>Ultima esecuzione</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3357,7 +3217,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because the hub and the client cannot communicate. Please update both.</source>
-        <translation>Il backup si è interrotto perché l&apos;hub e il client non possono comunicare. Aggiornarli entrambi.</translation>
+        <translation>Il backup si è interrotto perché l&apos;hub e il client non possono comunicare. Aggiornare entrambi.</translation>
     </message>
     <message>
         <source>The backup has stopped because this version of Tessaly is too old for the hub.</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>La versione del pacchetto sull&apos;hub non è supportata. Chiedere all&apos;amministratore di aggiornarlo.</translation>
+        <translation>La versione del pacchetto sull&apos;hub non è supportata. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3453,7 +3313,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync direction mismatch</source>
         <extracomment>Heading of the state of a task: it may upload alone or download alone.</extracomment>
-        <translation>Direzione di sincronizzazione errata</translation>
+        <translation>Direzione di sincronizzazione non corrispondente</translation>
     </message>
     <message>
         <source>Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Carica solo le modifiche su %1</translation>
+        <translation>Solo upload delle modifiche su %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3534,21 +3394,21 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Home folder disabled</source>
         <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
-        <translation>Cartella home disabilitata</translation>
+        <translation>Cartella home disattivata</translation>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Lun</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Gio</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sab</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Ven</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Dom</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mar</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mer</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Aggiornato</translation>
     </message>
     <message>
@@ -3883,7 +3741,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Try on-demand sync</source>
         <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
-        <translation>Novità: sincronizzazione on demand</translation>
+        <translation>Provare la sincronizzazione on demand</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Spazio liberato</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Reso disponibile su questo computer</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Lo spazio su questo disco non è sufficiente. %1 richiede almeno %2 MB.</translation>
+        <translation>Lo spazio su questo disco non è sufficiente. %1 richiede almeno %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -4004,7 +3858,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Only you can open the link</source>
         <extracomment>Choice: who may open a sharing link (a sentence without a full stop).</extracomment>
-        <translation>Solo Lei può aprire il link</translation>
+        <translation>Solo tu puoi aprire il link</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -4112,7 +3966,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because your account has been disabled on the hub.</source>
-        <translation>Il backup si è interrotto perché l&apos;account è stato disabilitato sull&apos;hub.</translation>
+        <translation>Il backup si è interrotto perché l&apos;account è stato disattivato sull&apos;hub.</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -4121,16 +3975,16 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
-        <translation>Chiedere all&apos;amministratore di abilitare l&apos;account.</translation>
+        <translation>Chiedere all&apos;amministratore di attivare l&apos;account.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub. Please contact your administrator.</source>
-        <translation>L&apos;account è stato disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>L&apos;account è stato disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Account disabled</source>
         <extracomment>Status, short, of a task: the administrator has disabled the user&apos;s account.</extracomment>
-        <translation>Account disabilitato</translation>
+        <translation>Account disattivato</translation>
     </message>
     <message>
         <source>Show icons on files that are excluded by a filter</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Modalità di backup</translation>
     </message>
     <message>
@@ -4281,13 +4133,11 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Immettere una dimensione compresa tra 0 e %1 MB. Immettere 0 per non impostare alcun limite.</translation>
+        <translation>Immettere una dimensione compresa tra 0 e %1&#xa0;MB. Immettere 0 per non impostare alcun limite.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Connessione</translation>
     </message>
     <message>
@@ -4367,7 +4217,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Sincronizzazioni</translation>
+        <translation>Attività di sincronizzazione</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4426,12 +4276,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>replied to your comment on</source>
         <extracomment>Fragment in a list of notifications, between a person&apos;s name and a file&apos;s: &quot;Ann replied to your comment on Plan.txt&quot;.</extracomment>
-        <translation>ha risposto al Suo commento su</translation>
+        <translation>ha risposto al tuo commento su</translation>
     </message>
     <message>
         <source>Open sync status</source>
         <extracomment>Menu item in the tray menu: opens the page with the state of the tasks.</extracomment>
-        <translation>Apri stato sincronizzazione</translation>
+        <translation>Apri lo stato di sincronizzazione</translation>
     </message>
     <message>
         <source>Replies</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per %1. Chiedere all&apos;amministratore di aggiornarla.</translation>
+        <translation>La versione di Tessaly Server sull&apos;hub è troppo vecchia per %1. Chiedere all&apos;amministratore di eseguire l&apos;aggiornamento.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Immettere una dimensione inferiore a %1 MB.</translation>
+        <translation>Immettere una dimensione inferiore a %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4650,7 +4500,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Norvik disabled</source>
         <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
-        <translation>Norvik disabilitato</translation>
+        <translation>Norvik disattivato</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
@@ -4674,11 +4524,11 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Norvik is disabled on the hub. Please contact your administrator.</source>
-        <translation>Norvik è disabilitato sull&apos;hub. Contattare l&apos;amministratore.</translation>
+        <translation>Norvik è disattivato sull&apos;hub. Contattare l&apos;amministratore.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>
-        <translation>L&apos;account è stato disabilitato sull&apos;hub, quindi non è possibile verificare la cartella.</translation>
+        <translation>L&apos;account è stato disattivato sull&apos;hub, quindi non è possibile verificare la cartella.</translation>
     </message>
     <message>
         <source>Add</source>
@@ -4711,7 +4561,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Custom task name</source>
         <extracomment>Check box beside a field: the user names the task.</extracomment>
-        <translation>Nome attività personalizzato</translation>
+        <translation>Nome personalizzato dell&apos;attività</translation>
     </message>
     <message>
         <source>The name helps you tell your tasks apart. It is shown on this computer only.</source>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>削除済み</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>連携解除</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Ferrylink 経由で接続</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>エラー</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>完了</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>ローカルフォルダー</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>ダウンロード済み</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>次へ</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>戻る</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>アップロード済み</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>カスタマイズ</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>時刻</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>ハブのストレージクォータを使い切りました。空き容量を増やしてからもう一度お試しください。</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>設定</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>共有フォルダー</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>パスワード</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>状態</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>適用</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>管理</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>問題が発生しました</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>システムトレイに白黒のアイコンを使用する</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>フォルダー</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>削除</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>準備しています...</translation>
     </message>
     <message>
@@ -668,7 +596,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>[ProductName] Setup</source>
         <extracomment>Heading of an installer window; [ProductName] becomes a product name; &quot;Setup&quot; is the installer.</extracomment>
-        <translation>[ProductName] セットアップ</translation>
+        <translation>[ProductName] インストーラー</translation>
     </message>
     <message>
         <source>Syncing %1 files...</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>同期モード</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>一時停止中</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>権限がありません</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>リンクの取得</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>一時停止</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>再開</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>操作</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>ファイル名</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>サイズ</translation>
     </message>
     <message>
@@ -992,7 +892,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Setup cannot replace files that other applications have open.</source>
-        <translation>ほかのアプリケーションで開いているファイルは、セットアップで置き換えることができません。</translation>
+        <translation>ほかのアプリケーションで開いているファイルは、インストーラーで置き換えることができません。</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>アプリケーションを開いたままにします。後でコンピューターの再起動が必要です。</translation>
     </message>
     <message>
@@ -1025,7 +925,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Click Finish to close Setup.</source>
         <extracomment>Message of the installer; Finish is its button.</extracomment>
-        <translation>「完了」をクリックしてセットアップを閉じてください。</translation>
+        <translation>「完了」をクリックしてインストーラーを閉じてください。</translation>
     </message>
     <message>
         <source>The drive that holds the local folder is not connected.</source>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>以前のバージョンを参照</translation>
     </message>
     <message>
@@ -1059,7 +957,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
-        <translation>エラーが発生したため、[ProductName] はインストールされませんでした。セットアップによる変更はすべて元に戻されました。セットアップはいつでも再実行できます。</translation>
+        <translation>エラーが発生したため、[ProductName] はインストールされませんでした。インストーラーによる変更はすべて元に戻されました。インストーラーはいつでも再実行できます。</translation>
     </message>
     <message>
         <source>Ignore</source>
@@ -1089,7 +987,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>このウィザードで [ProductName] を変更、修復、または削除できます。「次へ」をクリックして続行するか、「キャンセル」をクリックしてセットアップを終了してください。</translation>
+        <translation>このウィザードで [ProductName] を変更、修復、または削除できます。「次へ」をクリックして続行するか、「キャンセル」をクリックしてインストーラーを終了してください。</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1108,8 +1006,8 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
-        <translation>次のアプリケーションは、[ProductName] セットアップで置き換える必要のあるファイルを開いています：</translation>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <translation>次のアプリケーションは、[ProductName] インストーラーで置き換える必要のあるファイルを開いています：</translation>
     </message>
     <message>
         <source>Sync activity</source>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>修復</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>はい</translation>
     </message>
     <message>
@@ -1154,8 +1048,8 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
-        <translation>アプリケーションを今すぐ閉じ、セットアップの完了後に開き直します。</translation>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <translation>アプリケーションを今すぐ閉じ、インストールの完了後に開き直します。</translation>
     </message>
     <message>
         <source>Files in use</source>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>変更</translation>
     </message>
     <message>
@@ -1209,7 +1101,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Setup is about to remove the program.</source>
-        <translation>セットアップによってプログラムが削除されます。</translation>
+        <translation>インストーラーによってプログラムが削除されます。</translation>
     </message>
     <message>
         <source>Ready to remove [ProductName]</source>
@@ -1222,7 +1114,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
-        <translation>セットアップによってプログラムが修復されます。</translation>
+        <translation>インストーラーによってプログラムが修復されます。</translation>
     </message>
     <message>
         <source>Ready to repair [ProductName]</source>
@@ -1232,17 +1124,17 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>開始するには「修復」、別の操作を選択するには「戻る」、セットアップを終了するには「キャンセル」をクリックしてください。</translation>
+        <translation>開始するには「修復」、別の操作を選択するには「戻る」、インストーラーを終了するには「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>[ProductName] がインストールされる前にセットアップを終了しました。コンピューターへの変更はありません。セットアップはいつでも再実行できます。</translation>
+        <translation>[ProductName] がインストールされる前にインストーラーを終了しました。コンピューターへの変更はありません。インストーラーはいつでも再実行できます。</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>このウィザードで [ProductName] をコンピューターにインストールします。「次へ」をクリックして続行するか、「キャンセル」をクリックしてセットアップを終了してください。</translation>
+        <translation>このウィザードで [ProductName] をコンピューターにインストールします。「次へ」をクリックして続行するか、「キャンセル」をクリックしてインストーラーを終了してください。</translation>
     </message>
     <message>
         <source>From</source>
@@ -1252,7 +1144,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Welcome to [ProductName] Setup</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>[ProductName] セットアップへようこそ</translation>
+        <translation>[ProductName] インストーラーへようこそ</translation>
     </message>
     <message>
         <source>[ProductName] is now installed</source>
@@ -1262,7 +1154,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Setup of [ProductName] was canceled</source>
         <extracomment>Heading of the installer&apos;s last page; [ProductName] becomes a product name; the user canceled.</extracomment>
-        <translation>[ProductName] のセットアップがキャンセルされました</translation>
+        <translation>[ProductName] のインストールがキャンセルされました</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -1321,12 +1213,12 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
         <extracomment>Message: %1 is the task&apos;s name.</extracomment>
-        <translation>タスク「%1」を停止し、ハブへの接続を削除します。両方のファイルは保持されます。</translation>
+        <translation>タスク「%1」を停止し、ハブへの接続を削除します。両側のファイルは保持されます。</translation>
     </message>
     <message>
         <source>Open containing folder</source>
         <extracomment>Menu item: opens the folder that a file lies in.</extracomment>
-        <translation>ファイルの場所を開く</translation>
+        <translation>ファイルのあるフォルダーを開く</translation>
     </message>
     <message>
         <source>The address of the file could not be retrieved from the hub.</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>昨日</translation>
     </message>
     <message>
@@ -1443,9 +1333,7 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>名前変更済み</translation>
     </message>
     <message>
@@ -1465,9 +1353,7 @@ Event: what happened to the file named beside it (participle; the file was renam
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>ファイル</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>種類</translation>
     </message>
     <message>
@@ -1525,7 +1409,7 @@ Column head of a list: the kind of file.</extracomment>
     <message>
         <source>Sync this folder again</source>
         <extracomment>Menu item of the file manager, one folder: it is synced once more.</extracomment>
-        <translation>このフォルダーの同期を再開</translation>
+        <translation>このフォルダーをもう一度同期</translation>
     </message>
     <message>
         <source>Stop syncing these folders</source>
@@ -1540,7 +1424,7 @@ Column head of a list: the kind of file.</extracomment>
     <message>
         <source>Sync these folders again</source>
         <extracomment>Menu item of the file manager, several folders: they are synced once more.</extracomment>
-        <translation>これらのフォルダーの同期を再開</translation>
+        <translation>これらのフォルダーをもう一度同期</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>詳細セットアップ</translation>
     </message>
     <message>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>ユーザー名</translation>
     </message>
     <message>
@@ -1802,7 +1682,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>ファイルが両方で変更された場合：</translation>
+        <translation>ファイルが両側で変更された場合：</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>同期</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>ハブ</translation>
     </message>
     <message>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>ハブのフォルダー</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>通知</translation>
     </message>
     <message>
@@ -2371,7 +2241,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Setup has collected all the information that it needs.</source>
-        <translation>セットアップに必要な情報がすべてそろいました。</translation>
+        <translation>インストールに必要な情報がすべてそろいました。</translation>
     </message>
     <message>
         <source>%1 is ready.</source>
@@ -2400,7 +2270,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>A newer version of Kelvane Quay Client is already installed. Setup will now exit.</source>
-        <translation>新しいバージョンの Kelvane Quay Client が既にインストールされています。セットアップを終了します。</translation>
+        <translation>新しいバージョンの Kelvane Quay Client が既にインストールされています。インストーラーを終了します。</translation>
     </message>
     <message>
         <source>The SSL certificate of the hub has changed. If you did not expect this, please contact your administrator before you continue.</source>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>バージョンの不一致</translation>
     </message>
     <message>
@@ -2528,7 +2396,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>A newer version of Tessaly is already installed. Setup will now exit.</source>
-        <translation>新しいバージョンの Tessaly が既にインストールされています。セットアップを終了します。</translation>
+        <translation>新しいバージョンの Tessaly が既にインストールされています。インストーラーを終了します。</translation>
     </message>
     <message>
         <source>Tutorial of Tessaly</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>ダウンロード</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>共有</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>このコンピューターから削除されたファイルをハブに保持する</translation>
     </message>
     <message>
@@ -2968,7 +2830,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Files shared with you</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>共有されたファイル</translation>
+        <translation>ほかのユーザーが共有したファイル</translation>
     </message>
     <message>
         <source>Create a sync task</source>
@@ -2983,7 +2845,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Files shared with me</source>
         <extracomment>Choice of the wizard: which files a new task syncs.</extracomment>
-        <translation>共有されたファイル</translation>
+        <translation>自分と共有されたファイル</translation>
     </message>
     <message>
         <source>This is not the hub that Tessaly was linked to. Please link this computer again.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>常にこのコンピューターに保持</translation>
     </message>
     <message>
@@ -3168,12 +3028,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>前回の終了時刻</translation>
+        <translation>前回の終了日時</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>前回の実行時刻</translation>
+        <translation>前回の実行日時</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>月</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>木</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>土</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>金</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>日</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>火</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>水</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>最新の状態</translation>
     </message>
     <message>
@@ -3888,7 +3746,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Comment</source>
         <extracomment>Choice: a right on a shared file (verb), beside Preview and Edit.</extracomment>
-        <translation>コメント</translation>
+        <translation>コメントの投稿</translation>
     </message>
     <message>
         <source>The volume of the hub is full. Please contact your administrator.</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>空き容量を増やしました</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>このコンピューターで利用可能になりました</translation>
     </message>
     <message>
@@ -4181,7 +4035,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Operation</source>
         <extracomment>Column head of a list: what can be done with an entry (noun).</extracomment>
-        <translation>操作</translation>
+        <translation>実行できる操作</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist.</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>バックアップモード</translation>
     </message>
     <message>
@@ -4285,9 +4137,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>接続</translation>
     </message>
     <message>
@@ -4494,7 +4344,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Are you sure you want to remove the link? It cannot be restored.</source>
-        <translation>リンクを削除してもよろしいですか？元に戻すことはできません。</translation>
+        <translation>リンクを削除してもよろしいですか？復元することはできません。</translation>
     </message>
     <message>
         <source>Remove this link?</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>：</translation>
     </message>
     <message>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>삭제됨</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>연동 해제</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Ferrylink를 통해 연결</translation>
     </message>
     <message>
@@ -40,15 +30,13 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>오류</translation>
     </message>
     <message>
         <source>File conflicts occurred. The file is now renamed as %1.</source>
         <extracomment>Message: %1 is the new file name.</extracomment>
-        <translation>파일 충돌이 발생했습니다. 이제 파일 이름은 %1입니다.</translation>
+        <translation>파일 충돌이 발생했습니다. 파일 이름이 %1(으)로 변경되었습니다.</translation>
     </message>
     <message>
         <source>The value is invalid. Please check it and try again.</source>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>마침</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>로컬 폴더</translation>
     </message>
     <message>
@@ -80,7 +64,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     <message>
         <source>About</source>
         <extracomment>Menu item in the tray menu: opens the box with the version and the copyright.</extracomment>
-        <translation>정보</translation>
+        <translation>프로그램 정보</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>다운로드됨</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>확인</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>취소</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>다음</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>뒤로</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>업로드됨</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>사용자 지정</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>시간</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>허브의 저장 공간 할당량을 모두 사용했습니다. 공간을 확보한 후 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>설정</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>공유 폴더</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>비밀번호</translation>
     </message>
     <message>
@@ -389,7 +341,7 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Synchronization could not be enabled for the shared folder.</source>
-        <translation>공유 폴더의 동기화를 사용하도록 설정할 수 없습니다.</translation>
+        <translation>공유 폴더의 동기화를 활성화할 수 없습니다.</translation>
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Please choose another one.</source>
@@ -425,7 +377,7 @@ Label beside a field of a sharing link.</extracomment>
     <message>
         <source>Enable synchronization</source>
         <extracomment>Check box for a shared folder: it is synced.</extracomment>
-        <translation>동기화 사용</translation>
+        <translation>동기화 활성화</translation>
     </message>
     <message>
         <source>Shared folder name</source>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>상태</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>적용</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>관리</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>문제가 발생했습니다</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>시스템 트레이에 흑백 아이콘 사용</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>폴더</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>제거</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>준비하는 중...</translation>
     </message>
     <message>
@@ -668,7 +596,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>[ProductName] Setup</source>
         <extracomment>Heading of an installer window; [ProductName] becomes a product name; &quot;Setup&quot; is the installer.</extracomment>
-        <translation>[ProductName] 설치</translation>
+        <translation>[ProductName] 설치 프로그램</translation>
     </message>
     <message>
         <source>Syncing %1 files...</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>동기화 모드</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>일시 중지됨</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>권한 없음</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>링크 가져오기</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>일시 중지</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>재개</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>동작</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>파일 이름</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>크기</translation>
     </message>
     <message>
@@ -881,12 +781,12 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Disabled</source>
         <extracomment>Status of a shared folder: its sync is turned off.</extracomment>
-        <translation>사용 안 함</translation>
+        <translation>비활성화됨</translation>
     </message>
     <message>
         <source>Enabled</source>
         <extracomment>Status of a shared folder: its sync is turned on.</extracomment>
-        <translation>사용</translation>
+        <translation>활성화됨</translation>
     </message>
     <message>
         <source>If you stop syncing this shared folder, later changes will not be transferred. The local files will be kept.</source>
@@ -896,7 +796,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Enable SSL encryption</source>
         <extracomment>Check box of the connection settings.</extracomment>
-        <translation>SSL 암호화 사용</translation>
+        <translation>SSL 암호화 활성화</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to sync with the hub.</source>
@@ -905,7 +805,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>has been shared with you.</source>
         <extracomment>Fragment: follows the name of a folder or file in a notification: &quot;Photos has been shared with you.&quot;</extracomment>
-        <translation>항목이 공유되었습니다.</translation>
+        <translation>항목이 나와 공유되었습니다.</translation>
     </message>
     <message>
         <source>New share</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>애플리케이션을 열어 둡니다. 나중에 컴퓨터를 다시 시작해야 합니다.</translation>
     </message>
     <message>
@@ -1039,14 +939,12 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>이전 버전 찾아보기</translation>
     </message>
     <message>
         <source>What would you like to do?</source>
-        <translation>어떤 작업을 하시겠습니까?</translation>
+        <translation>무엇을 하시겠습니까?</translation>
     </message>
     <message>
         <source>[ProductName] is being installed on your computer.</source>
@@ -1074,7 +972,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Information about this computer and the hub that it is linked to.</source>
         <extracomment>Message: an entry of a list: what the exported file holds about this computer and about the hub.</extracomment>
-        <translation>이 컴퓨터와 연동된 허브에 대한 정보입니다.</translation>
+        <translation>이 컴퓨터 및 연동된 허브에 대한 정보입니다.</translation>
     </message>
     <message>
         <source>Status:</source>
@@ -1089,7 +987,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>이 마법사를 사용하여 [ProductName] 프로그램을 변경, 복구 또는 제거할 수 있습니다. 계속하려면 &quot;다음&quot;을, 설치를 끝내려면 &quot;취소&quot;를 클릭하십시오.</translation>
+        <translation>이 마법사를 사용하여 [ProductName] 프로그램을 변경, 복구 또는 제거할 수 있습니다. 계속하려면 &quot;다음&quot;을, 설치 프로그램을 종료하려면 &quot;취소&quot;를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>[ProductName] 설치 프로그램에서 바꿔야 하는 파일이 다음 애플리케이션에서 열려 있습니다:</translation>
     </message>
     <message>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>복구</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>예</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>지금 애플리케이션을 닫고 설치가 끝나면 다시 엽니다.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>변경</translation>
     </message>
     <message>
@@ -1232,17 +1124,17 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>시작하려면 &quot;복구&quot;를, 다른 동작을 선택하려면 &quot;뒤로&quot;를, 설치를 끝내려면 &quot;취소&quot;를 클릭하십시오.</translation>
+        <translation>시작하려면 &quot;복구&quot;를, 다른 동작을 선택하려면 &quot;뒤로&quot;를, 설치 프로그램을 종료하려면 &quot;취소&quot;를 클릭하십시오.</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>[ProductName] 프로그램이 설치되기 전에 설치를 끝냈습니다. 컴퓨터에서 변경된 내용은 없습니다. 설치 프로그램은 언제든지 다시 실행할 수 있습니다.</translation>
+        <translation>[ProductName] 프로그램이 설치되기 전에 설치 프로그램을 종료했습니다. 컴퓨터에서 변경된 내용은 없습니다. 설치 프로그램은 언제든지 다시 실행할 수 있습니다.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>이 마법사는 컴퓨터에 [ProductName] 프로그램을 설치합니다. 계속하려면 &quot;다음&quot;을, 설치를 끝내려면 &quot;취소&quot;를 클릭하십시오.</translation>
+        <translation>이 마법사는 컴퓨터에 [ProductName] 프로그램을 설치합니다. 계속하려면 &quot;다음&quot;을, 설치 프로그램을 종료하려면 &quot;취소&quot;를 클릭하십시오.</translation>
     </message>
     <message>
         <source>From</source>
@@ -1282,7 +1174,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Synchronization enabled</source>
         <extracomment>Status of a shared folder.</extracomment>
-        <translation>동기화 사용 중</translation>
+        <translation>동기화 활성화됨</translation>
     </message>
     <message>
         <source>Add task</source>
@@ -1316,7 +1208,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
-        <translation>사용자 계정에서는 공유를 사용할 수 없습니다.</translation>
+        <translation>사용자 계정에서 공유가 비활성화되어 있습니다.</translation>
     </message>
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
@@ -1376,13 +1268,11 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
-        <translation>허브에서 Ferrylink를 통한 파일 공유를 사용할 수 없습니다. 관리자에게 문의하십시오.</translation>
+        <translation>허브에서 Ferrylink를 통한 파일 공유가 비활성화되어 있습니다. 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>어제</translation>
     </message>
     <message>
@@ -1443,9 +1333,7 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>이름 변경됨</translation>
     </message>
     <message>
@@ -1465,9 +1353,7 @@ Event: what happened to the file named beside it (participle; the file was renam
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>파일</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>유형</translation>
     </message>
     <message>
@@ -1604,10 +1488,8 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>고급 설정</translation>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <translation>고급 설정 마법사</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>사용자 이름</translation>
     </message>
     <message>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>동기화</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>허브</translation>
     </message>
     <message>
@@ -2080,7 +1956,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Only shared folders that have been enabled in Tessaly Server are listed here.</source>
-        <translation>Tessaly Server에서 사용하도록 설정된 공유 폴더만 표시됩니다.</translation>
+        <translation>Tessaly Server에서 활성화된 공유 폴더만 표시됩니다.</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
@@ -2141,7 +2017,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>The user home service is disabled on the hub. Please contact your administrator.</source>
         <extracomment>Message of a task; the service gives each user a home folder.</extracomment>
-        <translation>허브에서 사용자 홈 서비스를 사용할 수 없습니다. 관리자에게 문의하십시오.</translation>
+        <translation>허브에서 사용자 홈 서비스가 비활성화되어 있습니다. 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>The update failed. Please &lt;a href=&quot;%1&quot;&gt;download the latest version&lt;/a&gt; and install it manually.</source>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>허브의 폴더</translation>
     </message>
     <message>
@@ -2319,7 +2193,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>The Ferrylink relay service is disabled on the hub.</source>
-        <translation>허브에서 Ferrylink 중계 서비스를 사용할 수 없습니다.</translation>
+        <translation>허브에서 Ferrylink 중계 서비스가 비활성화되어 있습니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded. Please try again later.</source>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>알림</translation>
     </message>
     <message>
@@ -2352,7 +2222,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Set up</source>
         <extracomment>Button: begins to set up what is named beside it (verb).</extracomment>
-        <translation>설정</translation>
+        <translation>설정하기</translation>
     </message>
     <message>
         <source>Open synced folder</source>
@@ -2433,7 +2303,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Only shared folders that have been enabled in %1 are listed here.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>%1에서 사용하도록 설정된 공유 폴더만 표시됩니다.</translation>
+        <translation>%1에서 활성화된 공유 폴더만 표시됩니다.</translation>
     </message>
     <message>
         <source>Start %1 when I sign in to this computer</source>
@@ -2457,15 +2327,13 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>버전 불일치</translation>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that %1 can continue.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>디스크가 가득 찼습니다. %1 작업을 계속하려면 이 컴퓨터의 공간을 확보하십시오.</translation>
+        <translation>디스크가 가득 찼습니다. %1 프로그램이 계속 작동할 수 있도록 이 컴퓨터의 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>%1 has encountered a problem. Please restart it.</source>
@@ -2516,7 +2384,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>The operation failed. Please try again.</source>
-        <translation>작업을 수행하지 못했습니다. 다시 시도하십시오.</translation>
+        <translation>요청한 동작을 수행하지 못했습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>A folder named &quot;Kelvane Quay&quot; will be created at this location.</source>
@@ -2735,18 +2603,16 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>다운로드</translation>
     </message>
     <message>
         <source>Public sharing is disabled on the hub.</source>
-        <translation>허브에서 공개 공유를 사용할 수 없습니다.</translation>
+        <translation>허브에서 공개 공유가 비활성화되어 있습니다.</translation>
     </message>
     <message>
         <source>Sharing is disabled. Please contact your administrator.</source>
-        <translation>공유를 사용할 수 없습니다. 관리자에게 문의하십시오.</translation>
+        <translation>공유가 비활성화되어 있습니다. 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>공유</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>이 컴퓨터에서 삭제된 파일을 허브에 유지</translation>
     </message>
     <message>
@@ -2958,17 +2820,17 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Enable later</source>
         <extracomment>Choice of the wizard, second of two: files that others share with the user.</extracomment>
-        <translation>나중에 사용</translation>
+        <translation>나중에 활성화</translation>
     </message>
     <message>
         <source>Enable now</source>
         <extracomment>Choice of the wizard, first of two: files that others share with the user.</extracomment>
-        <translation>지금 사용</translation>
+        <translation>지금 활성화</translation>
     </message>
     <message>
         <source>Files shared with you</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>나와 공유된 파일</translation>
+        <translation>다른 사용자가 공유한 파일</translation>
     </message>
     <message>
         <source>Create a sync task</source>
@@ -3000,7 +2862,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that Tessaly can continue.</source>
-        <translation>디스크가 가득 찼습니다. Tessaly 작업을 계속하려면 이 컴퓨터의 공간을 확보하십시오.</translation>
+        <translation>디스크가 가득 찼습니다. Tessaly가 계속 작동할 수 있도록 이 컴퓨터의 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>Team folder</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>항상 이 컴퓨터에 유지</translation>
     </message>
     <message>
@@ -3168,12 +3028,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>마지막 종료 시간</translation>
+        <translation>마지막 종료 일시</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>마지막 실행 시간</translation>
+        <translation>마지막 실행 일시</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3534,21 +3394,21 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Home folder disabled</source>
         <extracomment>Heading of the state of a task: the hub offers no home folders.</extracomment>
-        <translation>홈 폴더 사용 안 함</translation>
+        <translation>홈 폴더 비활성화됨</translation>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>월</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>목</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>토</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>금</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>일</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>화</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>수</translation>
     </message>
     <message>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>최신 상태</translation>
     </message>
     <message>
@@ -3868,7 +3726,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Enable on-demand sync</source>
         <extracomment>Check box of a task&apos;s settings.</extracomment>
-        <translation>주문형 동기화 사용</translation>
+        <translation>주문형 동기화 활성화</translation>
     </message>
     <message>
         <source>The on-demand sync folder &quot;%1&quot; is missing. Please set up the task again.</source>
@@ -3888,7 +3746,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Comment</source>
         <extracomment>Choice: a right on a shared file (verb), beside Preview and Edit.</extracomment>
-        <translation>댓글</translation>
+        <translation>댓글 달기</translation>
     </message>
     <message>
         <source>The volume of the hub is full. Please contact your administrator.</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>공간 확보됨</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>이 컴퓨터에서 사용 가능해짐</translation>
     </message>
     <message>
@@ -3960,7 +3814,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Enable on-demand sync for this task</source>
         <extracomment>Check box of the wizard.</extracomment>
-        <translation>이 작업에 주문형 동기화 사용</translation>
+        <translation>이 작업에 주문형 동기화 활성화</translation>
     </message>
     <message>
         <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
@@ -3972,7 +3826,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Your disk is filling up. Enable on-demand sync to free up space.</source>
-        <translation>디스크가 거의 찼습니다. 공간을 확보하려면 주문형 동기화를 사용하십시오.</translation>
+        <translation>디스크가 거의 찼습니다. 공간을 확보하려면 주문형 동기화를 활성화하십시오.</translation>
     </message>
     <message>
         <source>Everything that others share with you, in one folder</source>
@@ -4181,7 +4035,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Operation</source>
         <extracomment>Column head of a list: what can be done with an entry (noun).</extracomment>
-        <translation>동작</translation>
+        <translation>가능한 동작</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist.</source>
@@ -4217,9 +4071,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>백업 모드</translation>
     </message>
     <message>
@@ -4285,9 +4137,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>연결</translation>
     </message>
     <message>
@@ -4470,12 +4320,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Enable advanced sharing</source>
         <extracomment>Check box for an item.</extracomment>
-        <translation>고급 공유 사용</translation>
+        <translation>고급 공유 활성화</translation>
     </message>
     <message>
         <source>Enable link protection</source>
         <extracomment>Check box for an item: password and validity of its link (URL).</extracomment>
-        <translation>링크 보호 사용</translation>
+        <translation>링크 보호 활성화</translation>
     </message>
     <message>
         <source>is now shared with advanced settings.</source>
@@ -4605,7 +4455,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>On-demand sync could not be enabled for this task.</source>
-        <translation>이 작업에 주문형 동기화를 사용하도록 설정할 수 없습니다.</translation>
+        <translation>이 작업에 주문형 동기화를 활성화할 수 없습니다.</translation>
     </message>
     <message>
         <source>The connection to the hub failed. Please check the address and your network.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4650,7 +4500,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Norvik disabled</source>
         <extracomment>Status, short, of a task: a service of the hub is turned off.</extracomment>
-        <translation>Norvik 사용 안 함</translation>
+        <translation>Norvik 비활성화됨</translation>
     </message>
     <message>
         <source>The hub is preparing your home folder. Please try again later.</source>
@@ -4674,7 +4524,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>Norvik is disabled on the hub. Please contact your administrator.</source>
-        <translation>허브에서 Norvik을 사용할 수 없습니다. 관리자에게 문의하십시오.</translation>
+        <translation>허브에서 Norvik이 비활성화되어 있습니다. 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the hub, so the folder cannot be checked.</source>

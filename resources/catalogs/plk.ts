@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Usunięto</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
-        <translation>Odłącz</translation>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
+        <translation>Usuń powiązanie</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Połącz przez Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Błąd</translation>
     </message>
     <message>
@@ -60,22 +48,18 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Zakończ</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Folder lokalny</translation>
     </message>
     <message>
         <source>Link again</source>
         <extracomment>Menu item in the tray menu: links this computer to the hub again.</extracomment>
-        <translation>Połącz ponownie</translation>
+        <translation>Powiąż ponownie</translation>
     </message>
     <message>
         <source>About</source>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Pobrano</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Anuluj</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Dalej</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Wstecz</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Przesłano</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Dostosuj</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Godzina</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Przydział miejsca na hubie został wyczerpany. Zwolnij trochę miejsca i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Ustawienia</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Foldery udostępnione</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Hasło</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Stan</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Zastosuj</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Zarządzaj</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Wystąpił problem</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Używaj czarno-białej ikony w zasobniku systemowym</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Folder</translation>
     </message>
     <message>
@@ -613,20 +551,12 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Usuń</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from the hub?</source>
-        <translation>Czy na pewno chcesz odłączyć ten komputer od huba?</translation>
+        <translation>Czy na pewno chcesz usunąć powiązanie tego komputera z hubem?</translation>
     </message>
     <message>
         <source>Destination</source>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Przygotowywanie...</translation>
     </message>
     <message>
@@ -707,7 +635,7 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>The local database is damaged. Please unlink this computer from the hub and link it again.</source>
-        <translation>Lokalna baza danych jest uszkodzona. Odłącz ten komputer od huba i połącz go ponownie.</translation>
+        <translation>Lokalna baza danych jest uszkodzona. Usuń powiązanie tego komputera z hubem i powiąż go ponownie.</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Tryb synchronizacji</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Wstrzymano</translation>
     </message>
     <message>
@@ -773,15 +697,11 @@ Status of a task: the task was paused.</extracomment>
     <message>
         <source>Linking...</source>
         <extracomment>Status in the tray: this computer is being linked to the hub.</extracomment>
-        <translation>Łączenie...</translation>
+        <translation>Tworzenie powiązania...</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Brak uprawnień</translation>
     </message>
     <message>
@@ -800,15 +720,13 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Pobierz link</translation>
     </message>
     <message>
         <source>Linking this computer to the hub...</source>
         <extracomment>Status, shown while this computer is being linked to the hub.</extracomment>
-        <translation>Łączenie tego komputera z hubem...</translation>
+        <translation>Tworzenie powiązania tego komputera z hubem...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Wstrzymaj</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Wznów</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Akcja</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Nazwa pliku</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Rozmiar</translation>
     </message>
     <message>
@@ -929,7 +829,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>The hub at this address has changed. Please link this computer again.</source>
-        <translation>Hub pod tym adresem się zmienił. Połącz ten komputer ponownie.</translation>
+        <translation>Hub pod tym adresem się zmienił. Powiąż ten komputer ponownie.</translation>
     </message>
     <message>
         <source>Synchronization is paused.</source>
@@ -997,7 +897,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Exit</source>
         <extracomment>Button of the installer: ends it.</extracomment>
-        <translation>Zakończ</translation>
+        <translation>Wyjdź</translation>
     </message>
     <message>
         <source>Print</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Pozostaw aplikacje otwarte. Później trzeba będzie ponownie uruchomić komputer.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Przeglądaj poprzednie wersje</translation>
     </message>
     <message>
@@ -1074,7 +972,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Information about this computer and the hub that it is linked to.</source>
         <extracomment>Message: an entry of a list: what the exported file holds about this computer and about the hub.</extracomment>
-        <translation>Informacje o tym komputerze i o hubie, z którym jest on połączony.</translation>
+        <translation>Informacje o tym komputerze i o hubie, z którym jest on powiązany.</translation>
     </message>
     <message>
         <source>Status:</source>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Następujące aplikacje mają otwarte pliki, które instalator [ProductName] musi zastąpić:</translation>
     </message>
     <message>
@@ -1118,9 +1016,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Napraw</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Tak</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Zamknij aplikacje teraz i otwórz je ponownie po zakończeniu instalacji.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Zmień</translation>
     </message>
     <message>
@@ -1272,7 +1164,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Link to a new hub</source>
         <extracomment>Button: links this computer to a hub that it does not know yet (verb).</extracomment>
-        <translation>Połącz z nowym hubem</translation>
+        <translation>Powiąż z nowym hubem</translation>
     </message>
     <message>
         <source>[ProductName] could not be installed</source>
@@ -1312,7 +1204,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>This is not the hub that %1 was linked to. Please link this computer again.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>To nie jest hub, z którym połączono aplikację %1. Połącz ten komputer ponownie.</translation>
+        <translation>To nie jest hub, z którym powiązano aplikację %1. Powiąż ten komputer ponownie.</translation>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Wczoraj</translation>
     </message>
     <message>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 godz. temu</translation>
+        <translation>Godzin temu: %1</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1439,19 +1329,17 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>This computer is already linked</source>
         <extracomment>Heading of a warning of the wizard.</extracomment>
-        <translation>Ten komputer jest już połączony</translation>
+        <translation>Ten komputer jest już powiązany</translation>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Zmieniono nazwę</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 d temu</translation>
+        <translation>Dni temu: %1</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 min temu</translation>
+        <translation>Minut temu: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Plik</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Typ</translation>
     </message>
     <message>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>Konfiguracja zaawansowana</translation>
     </message>
     <message>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Nazwa użytkownika</translation>
     </message>
     <message>
@@ -1694,7 +1574,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Link this computer to another hub</source>
         <extracomment>Choice of the wizard: what to set up next.</extracomment>
-        <translation>Połącz ten komputer z innym hubem</translation>
+        <translation>Powiąż ten komputer z innym hubem</translation>
     </message>
     <message>
         <source>Sync another folder with this hub</source>
@@ -1704,7 +1584,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nowa synchronizacja</translation>
+        <translation>Nowe zadanie synchronizacji</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Pliki większe niż %1 MB nie będą synchronizowane.</translation>
+        <translation>Pliki większe niż %1&#xa0;MB nie będą synchronizowane.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1755,7 +1635,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>This computer is already linked to the hub &quot;%1&quot;.</source>
         <extracomment>Message: %1 is the hub&apos;s name.</extracomment>
-        <translation>Ten komputer jest już połączony z hubem „%1”.</translation>
+        <translation>Ten komputer jest już powiązany z hubem „%1”.</translation>
     </message>
     <message>
         <source>A folder named &quot;Tessaly&quot; will be created at this location.</source>
@@ -1765,7 +1645,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>If you continue, the existing link will be replaced.</source>
         <extracomment>Message of the wizard; &quot;link&quot; is that of this computer to the hub, not a URL.</extracomment>
-        <translation>Jeśli będziesz kontynuować, istniejące połączenie zostanie zastąpione.</translation>
+        <translation>Jeśli będziesz kontynuować, istniejące powiązanie zostanie zastąpione.</translation>
     </message>
     <message>
         <source>The hub is offline.</source>
@@ -1832,7 +1712,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Unlinking...</source>
         <extracomment>Status, shown while this computer&apos;s link to the hub is being ended.</extracomment>
-        <translation>Odłączanie...</translation>
+        <translation>Usuwanie powiązania...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
@@ -1859,7 +1739,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>W obu kierunkach</translation>
+        <translation>Synchronizacja dwukierunkowa</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Synchronizacja</translation>
     </message>
     <message>
@@ -1992,7 +1870,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Linked hub</source>
         <extracomment>Screen reader: names the other of the two sides of a task: the hub that this computer is linked to; not the same as &quot;Connected hub&quot;.</extracomment>
-        <translation>Połączony hub</translation>
+        <translation>Powiązany hub</translation>
     </message>
     <message>
         <source>Sync task for the files that others share with you</source>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2214,7 +2090,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Linked sync folder</source>
         <extracomment>Screen reader: names the folder on this computer that belongs to a folder on the hub.</extracomment>
-        <translation>Połączony folder synchronizacji</translation>
+        <translation>Powiązany folder synchronizacji</translation>
     </message>
     <message>
         <source>Refresh the history</source>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Synchronizacja „%1”</translation>
+        <translation>Zadanie synchronizacji „%1”</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Folder na hubie</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Powiadomienia</translation>
     </message>
     <message>
@@ -2367,7 +2237,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>%1 is now linked to the hub and will keep your files in sync.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>Aplikacja %1 jest teraz połączona z hubem i będzie synchronizować Twoje pliki.</translation>
+        <translation>Aplikacja %1 jest teraz powiązana z hubem i będzie synchronizować Twoje pliki.</translation>
     </message>
     <message>
         <source>Setup has collected all the information that it needs.</source>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Niezgodność wersji</translation>
     </message>
     <message>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>Aplikacja Tessaly Server na hubie jest za stara dla tego klienta. Poproś administratora o jej zaktualizowanie.</translation>
+        <translation>Aplikacja Tessaly Server na hubie jest za stara dla tego klienta. Poproś administratora o aktualizację.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2641,15 +2509,15 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Na tym dysku jest za mało miejsca. Aplikacja Tessaly wymaga co najmniej %1 MB.</translation>
+        <translation>Na tym dysku jest za mało miejsca. Aplikacja Tessaly wymaga co najmniej %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
-        <translation>Aplikacja Tessaly jest teraz połączona z hubem i będzie synchronizować Twoje pliki.</translation>
+        <translation>Aplikacja Tessaly jest teraz powiązana z hubem i będzie synchronizować Twoje pliki.</translation>
     </message>
     <message>
         <source>Tessaly can be linked to the same hub only once with the same account.</source>
-        <translation>Aplikację Tessaly można połączyć z tym samym hubem tylko raz przy użyciu tego samego konta.</translation>
+        <translation>Aplikację Tessaly można powiązać z tym samym hubem tylko raz przy użyciu tego samego konta.</translation>
     </message>
     <message>
         <source>Set up Tessaly to sync the files on this computer.</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Pobierz</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Udostępnij</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Zachowaj pliki na hubie, gdy zostaną usunięte z tego komputera</translation>
     </message>
     <message>
@@ -2987,7 +2849,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>This is not the hub that Tessaly was linked to. Please link this computer again.</source>
-        <translation>To nie jest hub, z którym połączono aplikację Tessaly. Połącz ten komputer ponownie.</translation>
+        <translation>To nie jest hub, z którym powiązano aplikację Tessaly. Powiąż ten komputer ponownie.</translation>
     </message>
     <message>
         <source>The hub and Tessaly cannot communicate. Please update both to the latest version.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Zawsze zachowuj na tym komputerze</translation>
     </message>
     <message>
@@ -3109,7 +2969,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Synchronizacja</translation>
+        <translation>Zadanie synchronizacji</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -3129,7 +2989,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Kopia zapasowa jest gotowa. Komputer zostanie wyłączony za %1 s.</translation>
+        <translation>Kopia zapasowa jest gotowa. Komputer zostanie wyłączony za %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
@@ -3222,7 +3082,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Files are backed up when you click Back up now.</source>
         <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
-        <translation>Kopie zapasowe plików są tworzone po kliknięciu przycisku Utwórz kopię teraz.</translation>
+        <translation>Kopie zapasowe plików są tworzone po kliknięciu przycisku Utwórz kopię zapasową teraz.</translation>
     </message>
     <message>
         <source>Allow downloads</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>Wersja pakietu na hubie nie jest obsługiwana. Poproś administratora o jego zaktualizowanie.</translation>
+        <translation>Wersja pakietu na hubie nie jest obsługiwana. Poproś administratora o aktualizację.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Pon</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Czw</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sob</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Pt</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Niedz</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Wt</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Śr</translation>
     </message>
     <message>
@@ -3711,7 +3571,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>This computer is already linked to this hub with the same account.</source>
-        <translation>Ten komputer jest już połączony z tym hubem przy użyciu tego samego konta.</translation>
+        <translation>Ten komputer jest już powiązany z tym hubem przy użyciu tego samego konta.</translation>
     </message>
     <message>
         <source>Loading the shared folders...</source>
@@ -3746,7 +3606,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Linking to the hub...</source>
         <extracomment>Status, shown while this computer is being linked to the hub.</extracomment>
-        <translation>Łączenie z hubem...</translation>
+        <translation>Tworzenie powiązania z hubem...</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Aktualne</translation>
     </message>
     <message>
@@ -3919,17 +3777,13 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Zwolniono miejsce</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
-        <translation>Dostępne na tym komputerze</translation>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
+        <translation>Już dostępne na tym komputerze</translation>
     </message>
     <message>
         <source>On-demand sync requires a folder on an NTFS drive that is not a network or removable drive.</source>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Na tym dysku jest za mało miejsca. Aplikacja %1 wymaga co najmniej %2 MB.</translation>
+        <translation>Na tym dysku jest za mało miejsca. Aplikacja %1 wymaga co najmniej %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3986,7 +3840,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
-        <translation>Ten klient wymaga na hubie aplikacji %1 w wersji %2 lub nowszej. Poproś administratora o jej zaktualizowanie.</translation>
+        <translation>Ten klient wymaga na hubie aplikacji %1 w wersji %2 lub nowszej. Poproś administratora o aktualizację.</translation>
     </message>
     <message>
         <source>You do not have permission to use the package on the hub. Please contact your administrator.</source>
@@ -4022,7 +3876,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Start the tour</source>
         <extracomment>Button on the first page of the tutorial.</extracomment>
-        <translation>Rozpocznij prezentację</translation>
+        <translation>Rozpocznij wprowadzenie</translation>
     </message>
     <message>
         <source>New to %1? Read the &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
@@ -4213,13 +4067,11 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>times</source>
         <extracomment>Fragment, unit after a number field: &quot;[3] times&quot;, a day.</extracomment>
-        <translation>raz(y)</translation>
+        <translation>razy</translation>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
         <translation>Tryb kopii zapasowej</translation>
     </message>
     <message>
@@ -4281,13 +4133,11 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Wprowadź rozmiar od 0 do %1 MB. Wprowadź 0, aby nie ustawiać limitu.</translation>
+        <translation>Wprowadź rozmiar od 0 do %1&#xa0;MB. Wprowadź 0, aby nie ustawiać limitu.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Połączenie</translation>
     </message>
     <message>
@@ -4382,7 +4232,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Back up now</source>
         <extracomment>Button: starts the backup at once (verb).</extracomment>
-        <translation>Utwórz kopię teraz</translation>
+        <translation>Utwórz kopię zapasową teraz</translation>
     </message>
     <message>
         <source>Files</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Aplikacja Tessaly Server na hubie jest za stara dla aplikacji %1. Poproś administratora o jej zaktualizowanie.</translation>
+        <translation>Aplikacja Tessaly Server na hubie jest za stara dla aplikacji %1. Poproś administratora o aktualizację.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Wprowadź rozmiar mniejszy niż %1 MB.</translation>
+        <translation>Wprowadź rozmiar mniejszy niż %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Eliminado</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Desassociar</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Ligar através do Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Erro</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Concluir</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Pasta local</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Transferido</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Seguinte</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Anterior</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Enviado</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Personalizar</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Hora</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>A sua quota de armazenamento no hub está esgotada. Liberte espaço e tente novamente.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Definições</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Pastas partilhadas</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Palavra-passe</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Estado</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Aplicar</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Gerir</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Ocorreu um problema</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Utilizar um ícone a preto e branco na área de notificação</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Pasta</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Remover</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>A preparar...</translation>
     </message>
     <message>
@@ -668,7 +596,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>[ProductName] Setup</source>
         <extracomment>Heading of an installer window; [ProductName] becomes a product name; &quot;Setup&quot; is the installer.</extracomment>
-        <translation>Instalação de [ProductName]</translation>
+        <translation>Instalação do [ProductName]</translation>
     </message>
     <message>
         <source>Syncing %1 files...</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Modo de sincronização</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Em pausa</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Permissão negada</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Obter link</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Pausar</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Retomar</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Ação</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Nome do ficheiro</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Tamanho</translation>
     </message>
     <message>
@@ -949,7 +849,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>This folder is already part of a Tessaly backup task. Please choose another folder.</source>
-        <translation>Esta pasta já faz parte de uma tarefa de backup de Tessaly. Escolha outra pasta.</translation>
+        <translation>Esta pasta já faz parte de uma tarefa de cópia de segurança do Tessaly. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>This task is inactive because the hub cannot be reached.</source>
@@ -980,7 +880,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Ao fazer duplo clique no ícone da área de notificação</translation>
+        <translation>Duplo clique no ícone da área de notificação</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Deixar as aplicações abertas. Será necessário reiniciar o computador depois.</translation>
     </message>
     <message>
@@ -1016,11 +916,11 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Launch [ProductName]</source>
         <extracomment>Check box on the installer&apos;s last page; [ProductName] becomes a product name.</extracomment>
-        <translation>Iniciar [ProductName]</translation>
+        <translation>Iniciar o [ProductName]</translation>
     </message>
     <message>
         <source>[ProductName] will keep your files safe and in sync.</source>
-        <translation>[ProductName] manterá os seus ficheiros seguros e sincronizados.</translation>
+        <translation>O [ProductName] manterá os seus ficheiros seguros e sincronizados.</translation>
     </message>
     <message>
         <source>Click Finish to close Setup.</source>
@@ -1035,13 +935,11 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Repair [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Reparar [ProductName]</translation>
+        <translation>Reparar o [ProductName]</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Ver versões anteriores</translation>
     </message>
     <message>
@@ -1050,7 +948,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>[ProductName] is being installed on your computer.</source>
-        <translation>A instalação de [ProductName] no seu computador está em curso.</translation>
+        <translation>A instalação do [ProductName] no seu computador está em curso.</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -1059,7 +957,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
-        <translation>Ocorreu um erro e não foi possível instalar [ProductName]. Todas as alterações feitas pela Instalação foram anuladas. Pode executar novamente a Instalação em qualquer altura.</translation>
+        <translation>Ocorreu um erro e não foi possível instalar o [ProductName]. Todas as alterações feitas pela Instalação foram anuladas. Pode executar novamente a Instalação em qualquer altura.</translation>
     </message>
     <message>
         <source>Ignore</source>
@@ -1089,12 +987,12 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Utilize este assistente para alterar, reparar ou remover [ProductName]. Clique em Seguinte para continuar ou em Cancelar para sair da Instalação.</translation>
+        <translation>Utilize este assistente para alterar, reparar ou remover o [ProductName]. Clique em Seguinte para continuar ou em Cancelar para sair da Instalação.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Remover [ProductName]</translation>
+        <translation>Remover o [ProductName]</translation>
     </message>
     <message>
         <source>Read only</source>
@@ -1108,8 +1006,8 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
-        <translation>Estas aplicações têm ficheiros abertos que a Instalação de [ProductName] tem de substituir:</translation>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <translation>Estas aplicações têm ficheiros abertos que a Instalação do [ProductName] tem de substituir:</translation>
     </message>
     <message>
         <source>Sync activity</source>
@@ -1118,15 +1016,13 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Reparar</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
         <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
-        <translation>A instalar [ProductName]</translation>
+        <translation>A instalar o [ProductName]</translation>
     </message>
     <message>
         <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
@@ -1139,14 +1035,12 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Sim</translation>
     </message>
     <message>
         <source>Do you really want to cancel the installation of [ProductName]?</source>
-        <translation>Pretende mesmo cancelar a instalação de [ProductName]?</translation>
+        <translation>Pretende mesmo cancelar a instalação do [ProductName]?</translation>
     </message>
     <message>
         <source>Please read the agreement before you continue.</source>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Fechar as aplicações agora e reabri-las quando a Instalação terminar.</translation>
     </message>
     <message>
@@ -1164,13 +1058,11 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications and click Retry. If you click Ignore, [ProductName] will be complete only after the next restart of the computer.</source>
-        <translation>Feche as aplicações e clique em Repetir. Se clicar em Ignorar, a instalação de [ProductName] só ficará completa depois de o computador ser reiniciado.</translation>
+        <translation>Feche as aplicações e clique em Repetir. Se clicar em Ignorar, a instalação do [ProductName] só ficará completa depois de o computador ser reiniciado.</translation>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Alterar</translation>
     </message>
     <message>
@@ -1179,12 +1071,12 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>[ProductName] is always installed with all its features.</source>
-        <translation>A instalação de [ProductName] inclui sempre todas as funcionalidades.</translation>
+        <translation>A instalação do [ProductName] inclui sempre todas as funcionalidades.</translation>
     </message>
     <message>
         <source>Change [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Alterar [ProductName]</translation>
+        <translation>Alterar o [ProductName]</translation>
     </message>
     <message>
         <source>You can change, repair, or remove the installed program.</source>
@@ -1201,11 +1093,11 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Ready to install [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Preparado para instalar [ProductName]</translation>
+        <translation>Preparado para instalar o [ProductName]</translation>
     </message>
     <message>
         <source>Tessaly can now be installed. Click Install to start or Back to check your settings.</source>
-        <translation>Já é possível instalar Tessaly. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
+        <translation>Já é possível instalar o Tessaly. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
     </message>
     <message>
         <source>Setup is about to remove the program.</source>
@@ -1214,11 +1106,11 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Ready to remove [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Preparado para remover [ProductName]</translation>
+        <translation>Preparado para remover o [ProductName]</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from this computer. Your synced files will be kept.</source>
-        <translation>Clique em Remover para remover [ProductName] deste computador. Os ficheiros sincronizados serão mantidos.</translation>
+        <translation>Clique em Remover para remover o [ProductName] deste computador. Os ficheiros sincronizados serão mantidos.</translation>
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
@@ -1227,7 +1119,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Ready to repair [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Preparado para reparar [ProductName]</translation>
+        <translation>Preparado para reparar o [ProductName]</translation>
     </message>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
@@ -1237,12 +1129,12 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
         <extracomment>Message of the installer: the user ended it before it had installed anything (canceled, not completed).</extracomment>
-        <translation>Saiu da Instalação antes de concluir a instalação de [ProductName]. Nada foi alterado no seu computador. Pode executar novamente a Instalação em qualquer altura.</translation>
+        <translation>Saiu da Instalação antes de concluir a instalação do [ProductName]. Nada foi alterado no seu computador. Pode executar novamente a Instalação em qualquer altura.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Este assistente irá instalar [ProductName] no seu computador. Clique em Seguinte para continuar ou em Cancelar para sair da Instalação.</translation>
+        <translation>Este assistente irá instalar o [ProductName] no seu computador. Clique em Seguinte para continuar ou em Cancelar para sair da Instalação.</translation>
     </message>
     <message>
         <source>From</source>
@@ -1252,17 +1144,17 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Welcome to [ProductName] Setup</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Boas-vindas à Instalação de [ProductName]</translation>
+        <translation>Boas-vindas à Instalação do [ProductName]</translation>
     </message>
     <message>
         <source>[ProductName] is now installed</source>
         <extracomment>Heading of the installer&apos;s last page; [ProductName] becomes a product name.</extracomment>
-        <translation>A instalação de [ProductName] terminou</translation>
+        <translation>A instalação do [ProductName] terminou</translation>
     </message>
     <message>
         <source>Setup of [ProductName] was canceled</source>
         <extracomment>Heading of the installer&apos;s last page; [ProductName] becomes a product name; the user canceled.</extracomment>
-        <translation>A instalação de [ProductName] foi cancelada</translation>
+        <translation>A instalação do [ProductName] foi cancelada</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -1277,7 +1169,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>[ProductName] could not be installed</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Não foi possível instalar [ProductName]</translation>
+        <translation>Não foi possível instalar o [ProductName]</translation>
     </message>
     <message>
         <source>Synchronization enabled</source>
@@ -1312,7 +1204,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>This is not the hub that %1 was linked to. Please link this computer again.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Este não é o hub que foi associado a %1. Associe novamente este computador.</translation>
+        <translation>Este não é o hub ao qual o %1 estava associado. Associe novamente este computador.</translation>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
@@ -1326,7 +1218,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Open containing folder</source>
         <extracomment>Menu item: opens the folder that a file lies in.</extracomment>
-        <translation>Abrir localização do ficheiro</translation>
+        <translation>Abrir a pasta do ficheiro</translation>
     </message>
     <message>
         <source>The address of the file could not be retrieved from the hub.</source>
@@ -1372,7 +1264,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Sincronize, partilhe e proteja os seus ficheiros</translation>
+        <translation>Sincronize, partilhe e proteja ficheiros</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
@@ -1380,14 +1272,12 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Ontem</translation>
     </message>
     <message>
         <source>Choose how you want to set up Tessaly.</source>
-        <translation>Escolha como pretende configurar Tessaly.</translation>
+        <translation>Escolha como pretende configurar o Tessaly.</translation>
     </message>
     <message>
         <source>Quick setup</source>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Há %1 h</translation>
+        <translation>Há %1&#xa0;h</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Renomeado</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Há %1 d</translation>
+        <translation>Há %1&#xa0;d</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Há %1 min</translation>
+        <translation>Há %1&#xa0;min</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Ficheiro</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
@@ -1604,9 +1488,7 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
         <translation>Configuração avançada</translation>
     </message>
     <message>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Nome de utilizador</translation>
     </message>
     <message>
@@ -1704,7 +1584,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nova sincronização</translation>
+        <translation>Nova tarefa de sincronização</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Os ficheiros com mais de %1 MB não serão sincronizados.</translation>
+        <translation>Os ficheiros com mais de %1&#xa0;MB não serão sincronizados.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1802,7 +1682,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Quando um ficheiro for alterado em ambos os lados:</translation>
+        <translation>Quando um ficheiro mudar em ambos os lados:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1859,7 +1739,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Bidirecional</translation>
+        <translation>Sincronização bidirecional</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Sincronização</translation>
     </message>
     <message>
@@ -1982,7 +1860,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Open the web portal of Tessaly</source>
         <extracomment>Screen reader: names a button.</extracomment>
-        <translation>Abrir o portal Web de Tessaly</translation>
+        <translation>Abrir o portal Web do Tessaly</translation>
     </message>
     <message>
         <source>This computer</source>
@@ -2026,7 +1904,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Tessaly keeps the files on your computers and on the hub identical.</source>
-        <translation>Tessaly mantém idênticos os ficheiros dos seus computadores e do hub.</translation>
+        <translation>O Tessaly mantém idênticos os ficheiros dos seus computadores e do hub.</translation>
     </message>
     <message>
         <source>hours</source>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2080,7 +1956,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Only shared folders that have been enabled in Tessaly Server are listed here.</source>
-        <translation>Só são apresentadas aqui as pastas partilhadas que foram ativadas em Tessaly Server.</translation>
+        <translation>Só são apresentadas aqui as pastas partilhadas que foram ativadas no Tessaly Server.</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
@@ -2204,7 +2080,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Show the tutorial of %1</source>
         <extracomment>Button: opens the tutorial; %1 is a product name.</extracomment>
-        <translation>Mostrar o tutorial de %1</translation>
+        <translation>Mostrar o tutorial do %1</translation>
     </message>
     <message>
         <source>Change the sync folder</source>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Sincronização “%1”</translation>
+        <translation>Tarefa de sincronização “%1”</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Pasta no hub</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Notificações</translation>
     </message>
     <message>
@@ -2362,12 +2232,12 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>You only have read access to this folder. %1 will not upload your changes.</source>
         <extracomment>Tooltip of a folder; %1 is a product name.</extracomment>
-        <translation>Só tem acesso de leitura a esta pasta. %1 não enviará as suas alterações.</translation>
+        <translation>Só tem acesso de leitura a esta pasta. O %1 não enviará as suas alterações.</translation>
     </message>
     <message>
         <source>%1 is now linked to the hub and will keep your files in sync.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>A associação de %1 ao hub está concluída e os seus ficheiros serão mantidos sincronizados.</translation>
+        <translation>O %1 está agora associado ao hub e irá manter os seus ficheiros sincronizados.</translation>
     </message>
     <message>
         <source>Setup has collected all the information that it needs.</source>
@@ -2381,12 +2251,12 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>%1 is already running.</source>
         <extracomment>Message in a box; %1 is a product name.</extracomment>
-        <translation>%1 já está em execução.</translation>
+        <translation>O %1 já está em execução.</translation>
     </message>
     <message>
         <source>%1 keeps the files on your computers and on the hub identical.</source>
         <extracomment>Message of the wizard; %1 is a product name.</extracomment>
-        <translation>%1 mantém idênticos os ficheiros dos seus computadores e do hub.</translation>
+        <translation>O %1 mantém idênticos os ficheiros dos seus computadores e do hub.</translation>
     </message>
     <message>
         <source>Preview and comment</source>
@@ -2396,11 +2266,11 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>%1 could not be updated. Please try again later.</source>
         <extracomment>Message in a box; %1 is a product name.</extracomment>
-        <translation>Não foi possível atualizar %1. Tente novamente mais tarde.</translation>
+        <translation>Não foi possível atualizar o %1. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>A newer version of Kelvane Quay Client is already installed. Setup will now exit.</source>
-        <translation>Já está instalada uma versão mais recente de Kelvane Quay Client. A Instalação será encerrada.</translation>
+        <translation>Já está instalada uma versão mais recente do Kelvane Quay Client. A Instalação será encerrada.</translation>
     </message>
     <message>
         <source>The SSL certificate of the hub has changed. If you did not expect this, please contact your administrator before you continue.</source>
@@ -2414,7 +2284,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>The folder belongs to Dropbox. Syncing it with %1 as well may cause file conflicts.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>A pasta pertence ao Dropbox. Sincronizá-la também com %1 pode causar conflitos de ficheiros.</translation>
+        <translation>A pasta pertence ao Dropbox. Sincronizá-la também com o %1 pode causar conflitos de ficheiros.</translation>
     </message>
     <message>
         <source>Your changes will be lost. Do you want to continue?</source>
@@ -2423,22 +2293,22 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Tutorial of %1</source>
         <extracomment>Screen reader: names the tutorial; %1 is a product name.</extracomment>
-        <translation>Tutorial de %1</translation>
+        <translation>Tutorial do %1</translation>
     </message>
     <message>
         <source>The Ferrylink ID does not exist, or %1 is not running on the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>O ID do Ferrylink não existe ou %1 não está em execução no hub.</translation>
+        <translation>O ID do Ferrylink não existe ou o %1 não está em execução no hub.</translation>
     </message>
     <message>
         <source>Only shared folders that have been enabled in %1 are listed here.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Só são apresentadas aqui as pastas partilhadas que foram ativadas em %1.</translation>
+        <translation>Só são apresentadas aqui as pastas partilhadas que foram ativadas no %1.</translation>
     </message>
     <message>
         <source>Start %1 when I sign in to this computer</source>
         <extracomment>Check box of the general options; %1 is a product name.</extracomment>
-        <translation>Abrir %1 ao iniciar sessão neste computador</translation>
+        <translation>Abrir o %1 ao iniciar sessão neste computador</translation>
     </message>
     <message>
         <source>%1 is initializing...</source>
@@ -2448,29 +2318,27 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>The hub and %1 cannot communicate. Please update both to the latest version.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>O hub e %1 não conseguem comunicar. Atualize ambos para a versão mais recente.</translation>
+        <translation>O hub e o %1 não conseguem comunicar. Atualize ambos para a versão mais recente.</translation>
     </message>
     <message>
         <source>This version of %1 is too old for the hub. Please update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Esta versão de %1 é demasiado antiga para o hub. Atualize-a.</translation>
+        <translation>Esta versão do %1 é demasiado antiga para o hub. Atualize-a.</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versões incompatíveis</translation>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that %1 can continue.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>O disco está cheio. Liberte espaço neste computador para que %1 possa continuar.</translation>
+        <translation>O disco está cheio. Liberte espaço neste computador para que o %1 possa continuar.</translation>
     </message>
     <message>
         <source>%1 has encountered a problem. Please restart it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Ocorreu um problema em %1. Reinicie a aplicação.</translation>
+        <translation>Ocorreu um problema no %1. Reinicie a aplicação.</translation>
     </message>
     <message>
         <source>Notifications tab</source>
@@ -2480,35 +2348,35 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>The folder is not empty. %1 will merge its files with those on the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>A pasta não está vazia. %1 unirá os ficheiros da pasta aos do hub.</translation>
+        <translation>A pasta não está vazia. O %1 unirá os ficheiros da pasta aos do hub.</translation>
     </message>
     <message>
         <source>Only download changes from %1</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;); %1 is a product name.</extracomment>
-        <translation>Só transferir alterações de %1</translation>
+        <translation>Só transferir alterações do %1</translation>
     </message>
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>A configuração de %1 está concluída. Abra a sua pasta para começar a trabalhar.</translation>
+        <translation>O %1 está configurado. Abra a sua pasta para começar a trabalhar.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to Tessaly</source>
         <extracomment>Screen reader: names a page of the tutorial.</extracomment>
-        <translation>Página 1 do tutorial: boas-vindas a Tessaly</translation>
+        <translation>Página 1 do tutorial: boas-vindas ao Tessaly</translation>
     </message>
     <message>
         <source>This version of Kelvane Quay Client is already installed. Do you want to install it again?</source>
-        <translation>Esta versão de Kelvane Quay Client já está instalada. Pretende instalá-la novamente?</translation>
+        <translation>Esta versão do Kelvane Quay Client já está instalada. Pretende instalá-la novamente?</translation>
     </message>
     <message>
         <source>Set up %1 to sync and back up the files on this computer.</source>
         <extracomment>Message of the wizard; %1 is a product name.</extracomment>
-        <translation>Configure %1 para sincronizar e fazer backup dos ficheiros deste computador.</translation>
+        <translation>Configure o %1 para sincronizar os ficheiros deste computador e fazer cópias de segurança.</translation>
     </message>
     <message>
         <source>Almost done! Your files will soon be available in Tessaly Server.</source>
-        <translation>Está quase! Os seus ficheiros estarão em breve disponíveis em Tessaly Server.</translation>
+        <translation>Está quase! Os seus ficheiros estarão em breve disponíveis no Tessaly Server.</translation>
     </message>
     <message>
         <source>Almost done! Your files will soon be available on this computer.</source>
@@ -2524,16 +2392,16 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>This version of Tessaly is already installed. Do you want to install it again?</source>
-        <translation>Esta versão de Tessaly já está instalada. Pretende instalá-la novamente?</translation>
+        <translation>Esta versão do Tessaly já está instalada. Pretende instalá-la novamente?</translation>
     </message>
     <message>
         <source>A newer version of Tessaly is already installed. Setup will now exit.</source>
-        <translation>Já está instalada uma versão mais recente de Tessaly. A Instalação será encerrada.</translation>
+        <translation>Já está instalada uma versão mais recente do Tessaly. A Instalação será encerrada.</translation>
     </message>
     <message>
         <source>Tutorial of Tessaly</source>
         <extracomment>Screen reader: names the tutorial.</extracomment>
-        <translation>Tutorial de Tessaly</translation>
+        <translation>Tutorial do Tessaly</translation>
     </message>
     <message>
         <source>Tessaly</source>
@@ -2547,24 +2415,24 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>The folder belongs to Dropbox. Syncing it with Tessaly as well may cause file conflicts.</source>
-        <translation>A pasta pertence ao Dropbox. Sincronizá-la também com Tessaly pode causar conflitos de ficheiros.</translation>
+        <translation>A pasta pertence ao Dropbox. Sincronizá-la também com o Tessaly pode causar conflitos de ficheiros.</translation>
     </message>
     <message>
         <source>Tessaly is ready.</source>
-        <translation>Tessaly pronta.</translation>
+        <translation>O Tessaly está pronto.</translation>
     </message>
     <message>
         <source>Tessaly is initializing...</source>
         <extracomment>Status, label of the start-up dialog.</extracomment>
-        <translation>Tessaly a iniciar...</translation>
+        <translation>O Tessaly está a iniciar...</translation>
     </message>
     <message>
         <source>The Ferrylink ID does not exist, or Tessaly Server is not running on the hub.</source>
-        <translation>O ID do Ferrylink não existe ou Tessaly Server não está em execução no hub.</translation>
+        <translation>O ID do Ferrylink não existe ou o Tessaly Server não está em execução no hub.</translation>
     </message>
     <message>
         <source>This version of Tessaly is too old for the hub. Please update it.</source>
-        <translation>Esta versão de Tessaly é demasiado antiga para o hub. Atualize-a.</translation>
+        <translation>Esta versão do Tessaly é demasiado antiga para o hub. Atualize-a.</translation>
     </message>
     <message>
         <source>Sharing permission</source>
@@ -2573,21 +2441,21 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>A versão de Tessaly Server no hub é demasiado antiga para este cliente. Peça ao administrador que a atualize.</translation>
+        <translation>A versão do Tessaly Server no hub é demasiado antiga para este cliente. Peça ao administrador que faça a atualização.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
         <extracomment>Button: opens the tutorial.</extracomment>
-        <translation>Mostrar o tutorial de Tessaly</translation>
+        <translation>Mostrar o tutorial do Tessaly</translation>
     </message>
     <message>
         <source>Start Tessaly when I sign in to this computer</source>
         <extracomment>Check box of the general options.</extracomment>
-        <translation>Abrir Tessaly ao iniciar sessão neste computador</translation>
+        <translation>Abrir o Tessaly ao iniciar sessão neste computador</translation>
     </message>
     <message>
         <source>Tessaly has encountered a problem. Please restart it.</source>
-        <translation>Ocorreu um problema em Tessaly. Reinicie a aplicação.</translation>
+        <translation>Ocorreu um problema no Tessaly. Reinicie a aplicação.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are now being synced.</source>
@@ -2600,24 +2468,24 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>The folder is not empty. Tessaly will merge its files with those on the hub.</source>
-        <translation>A pasta não está vazia. Tessaly unirá os ficheiros da pasta aos do hub.</translation>
+        <translation>A pasta não está vazia. O Tessaly unirá os ficheiros da pasta aos do hub.</translation>
     </message>
     <message>
         <source>Tessaly is already running.</source>
-        <translation>Tessaly já está em execução.</translation>
+        <translation>O Tessaly já está em execução.</translation>
     </message>
     <message>
         <source>Tessaly is set up. Open your folder to start working.</source>
-        <translation>A configuração de Tessaly está concluída. Abra a sua pasta para começar a trabalhar.</translation>
+        <translation>O Tessaly está configurado. Abra a sua pasta para começar a trabalhar.</translation>
     </message>
     <message>
         <source>You only have read access to this folder. Tessaly will not upload your changes.</source>
-        <translation>Só tem acesso de leitura a esta pasta. Tessaly não enviará as suas alterações.</translation>
+        <translation>Só tem acesso de leitura a esta pasta. O Tessaly não enviará as suas alterações.</translation>
     </message>
     <message>
         <source>Open Tessaly</source>
         <extracomment>Menu item in the tray menu.</extracomment>
-        <translation>Abrir Tessaly</translation>
+        <translation>Abrir o Tessaly</translation>
     </message>
     <message>
         <source>Version %1 is available. Click here to update.</source>
@@ -2626,7 +2494,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>To use selective sync, please ask your administrator to update Tessaly Server on the hub.</source>
-        <translation>Para utilizar a sincronização seletiva, peça ao administrador que atualize Tessaly Server no hub.</translation>
+        <translation>Para utilizar a sincronização seletiva, peça ao administrador que atualize o Tessaly Server no hub.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -2641,24 +2509,24 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Não há espaço suficiente neste disco. Tessaly necessita de, pelo menos, %1 MB.</translation>
+        <translation>Não há espaço suficiente neste disco. O Tessaly necessita de, pelo menos, %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
-        <translation>A associação de Tessaly ao hub está concluída e os seus ficheiros serão mantidos sincronizados.</translation>
+        <translation>O Tessaly está agora associado ao hub e irá manter os seus ficheiros sincronizados.</translation>
     </message>
     <message>
         <source>Tessaly can be linked to the same hub only once with the same account.</source>
-        <translation>Só é possível associar Tessaly ao mesmo hub uma vez com a mesma conta.</translation>
+        <translation>Só é possível associar o Tessaly ao mesmo hub uma vez com a mesma conta.</translation>
     </message>
     <message>
         <source>Set up Tessaly to sync the files on this computer.</source>
-        <translation>Configure Tessaly para sincronizar os ficheiros deste computador.</translation>
+        <translation>Configure o Tessaly para sincronizar os ficheiros deste computador.</translation>
     </message>
     <message>
         <source>New to Tessaly? Read the &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
         <extracomment>Message: the link is to be kept as it is.</extracomment>
-        <translation>É a primeira vez que utiliza Tessaly? Leia primeiro o &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;guia de introdução&lt;/a&gt;.</translation>
+        <translation>É a primeira vez que utiliza o Tessaly? Leia primeiro o &lt;a href=&quot;https://help.kelvane.example/tessaly/start&quot;&gt;guia de introdução&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>Can comment</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Transferir</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Partilhar</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Manter os ficheiros no hub quando forem eliminados deste computador</translation>
     </message>
     <message>
@@ -2953,7 +2815,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>You are ready to work with Tessaly.</source>
-        <translation>Está tudo pronto para trabalhar com Tessaly.</translation>
+        <translation>Está tudo pronto para trabalhar com o Tessaly.</translation>
     </message>
     <message>
         <source>Enable later</source>
@@ -2987,11 +2849,11 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>This is not the hub that Tessaly was linked to. Please link this computer again.</source>
-        <translation>Este não é o hub que foi associado a Tessaly. Associe novamente este computador.</translation>
+        <translation>Este não é o hub ao qual o Tessaly estava associado. Associe novamente este computador.</translation>
     </message>
     <message>
         <source>The hub and Tessaly cannot communicate. Please update both to the latest version.</source>
-        <translation>O hub e Tessaly não conseguem comunicar. Atualize ambos para a versão mais recente.</translation>
+        <translation>O hub e o Tessaly não conseguem comunicar. Atualize ambos para a versão mais recente.</translation>
     </message>
     <message>
         <source>Never miss a change</source>
@@ -3000,7 +2862,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that Tessaly can continue.</source>
-        <translation>O disco está cheio. Liberte espaço neste computador para que Tessaly possa continuar.</translation>
+        <translation>O disco está cheio. Liberte espaço neste computador para que o Tessaly possa continuar.</translation>
     </message>
     <message>
         <source>Team folder</source>
@@ -3010,11 +2872,11 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Only download changes from Tessaly Server</source>
         <extracomment>Choice of the sync direction: changes are downloaded and never uploaded (&quot;only&quot; goes with &quot;download&quot;).</extracomment>
-        <translation>Só transferir alterações de Tessaly Server</translation>
+        <translation>Só transferir alterações do Tessaly Server</translation>
     </message>
     <message>
         <source>Tessaly could not be updated. Please try again later.</source>
-        <translation>Não foi possível atualizar Tessaly. Tente novamente mais tarde.</translation>
+        <translation>Não foi possível atualizar o Tessaly. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>The tray icon shows what is being synced and tells you when others share files with you or comment on them.</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Manter sempre neste computador</translation>
     </message>
     <message>
@@ -3109,12 +2969,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Sincronização</translation>
+        <translation>Tarefa de sincronização</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
         <extracomment>Message of a choice.</extracomment>
-        <translation>O backup dos ficheiros é feito assim que são alterados.</translation>
+        <translation>A cópia de segurança dos ficheiros é feita assim que são alterados.</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -3124,22 +2984,22 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Files are backed up at the times that you set.</source>
         <extracomment>Message of a choice.</extracomment>
-        <translation>O backup dos ficheiros é feito às horas que definir.</translation>
+        <translation>A cópia de segurança dos ficheiros é feita às horas que definir.</translation>
     </message>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>O backup está concluído. O computador será desligado dentro de %1 s.</translation>
+        <translation>A cópia de segurança está concluída. O computador será desligado dentro de %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Tarefa de backup</translation>
+        <translation>Tarefa de cópia de segurança</translation>
     </message>
     <message>
         <source>Run on the following days</source>
         <extracomment>Label above a row of check boxes with the days of the week (not dates).</extracomment>
-        <translation>Fazer backup nos seguintes dias</translation>
+        <translation>Executar nos seguintes dias</translation>
     </message>
     <message>
         <source>Connect to the hub</source>
@@ -3148,12 +3008,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Protect the files on this computer by backing them up to the hub.</source>
-        <translation>Proteja os ficheiros deste computador com um backup no hub.</translation>
+        <translation>Proteja os ficheiros deste computador com uma cópia de segurança no hub.</translation>
     </message>
     <message>
         <source>Manual: the backup runs only when you start it.</source>
         <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
-        <translation>Manual: o backup só é executado quando o inicia.</translation>
+        <translation>Manual: a cópia de segurança só é executada quando a inicia.</translation>
     </message>
     <message>
         <source>Start time</source>
@@ -3168,12 +3028,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Last end time</source>
         <extracomment>Label beside a date and time: when the backup came to its end last (a moment, not a duration).</extracomment>
-        <translation>Hora da última conclusão</translation>
+        <translation>Fim da última execução</translation>
     </message>
     <message>
         <source>Last run time</source>
         <extracomment>Label beside a date and time: when the backup ran last (a moment, not a duration).</extracomment>
-        <translation>Hora da última execução</translation>
+        <translation>Última execução</translation>
     </message>
     <message>
         <source>Commenter</source>
@@ -3198,7 +3058,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Continuous: files are backed up whenever they change.</source>
         <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
-        <translation>Contínuo: o backup dos ficheiros é feito sempre que são alterados.</translation>
+        <translation>Contínua: a cópia de segurança dos ficheiros é feita sempre que são alterados.</translation>
     </message>
     <message>
         <source>Open in file manager</source>
@@ -3217,12 +3077,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup destination</source>
         <extracomment>Label beside the path of the folder on the hub that backups are stored in (a place, not a purpose).</extracomment>
-        <translation>Destino do backup</translation>
+        <translation>Destino da cópia de segurança</translation>
     </message>
     <message>
         <source>Files are backed up when you click Back up now.</source>
         <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
-        <translation>O backup dos ficheiros é feito quando clica em Fazer backup agora.</translation>
+        <translation>A cópia de segurança dos ficheiros é feita quando clica em Fazer cópia de segurança agora.</translation>
     </message>
     <message>
         <source>Allow downloads</source>
@@ -3232,12 +3092,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Scheduled: the backup runs at the times that you set.</source>
         <extracomment>Message of a choice; what stands before the colon is its name.</extracomment>
-        <translation>Agendado: o backup é executado às horas que definir.</translation>
+        <translation>Agendada: a cópia de segurança é executada às horas que definir.</translation>
     </message>
     <message>
         <source>Backup schedule</source>
         <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
-        <translation>Agendamento do backup</translation>
+        <translation>Agendamento da cópia de segurança</translation>
     </message>
     <message>
         <source>Manager</source>
@@ -3252,7 +3112,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Create a backup task</source>
         <extracomment>Heading of a wizard page, or a button (verb).</extracomment>
-        <translation>Criar uma tarefa de backup</translation>
+        <translation>Criar uma tarefa de cópia de segurança</translation>
     </message>
     <message>
         <source>Files whose names or extensions are listed here will be skipped.</source>
@@ -3269,16 +3129,16 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Choose when the files are backed up.</source>
-        <translation>Escolha quando é feito o backup dos ficheiros.</translation>
+        <translation>Escolha quando é feita a cópia de segurança dos ficheiros.</translation>
     </message>
     <message>
         <source>Please select at least one folder to back up.</source>
-        <translation>Selecione, pelo menos, uma pasta para o backup.</translation>
+        <translation>Selecione, pelo menos, uma pasta para a cópia de segurança.</translation>
     </message>
     <message>
         <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
         <extracomment>Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.</extracomment>
-        <translation>Ficheiros com backup em “%3”: %1 (%2), %4</translation>
+        <translation>Ficheiros com cópia de segurança em “%3”: %1 (%2), %4</translation>
     </message>
     <message>
         <source>History</source>
@@ -3288,11 +3148,11 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Start backing up</source>
         <extracomment>Button of the first page: sets up a backup task.</extracomment>
-        <translation>Iniciar backup</translation>
+        <translation>Iniciar cópia de segurança</translation>
     </message>
     <message>
         <source>Files and folders that match these rules will not be backed up.</source>
-        <translation>Não será feito backup dos ficheiros e pastas que correspondam a estas regras.</translation>
+        <translation>Não será feita cópia de segurança dos ficheiros e pastas que correspondam a estas regras.</translation>
     </message>
     <message>
         <source>No folder selected</source>
@@ -3317,7 +3177,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>When the backup is done</source>
         <extracomment>Label before a list: what the computer does then, such as &quot;Shut down the computer&quot;.</extracomment>
-        <translation>Quando o backup terminar</translation>
+        <translation>Quando a cópia de segurança terminar</translation>
     </message>
     <message>
         <source>Select a folder on &quot;%1&quot;.</source>
@@ -3345,7 +3205,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because the SSL certificate of the hub could not be verified.</source>
-        <translation>O backup parou porque não foi possível verificar o certificado SSL do hub.</translation>
+        <translation>A cópia de segurança parou porque não foi possível verificar o certificado SSL do hub.</translation>
     </message>
     <message>
         <source>The task could not be registered on the hub. Please try again.</source>
@@ -3353,20 +3213,20 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because the hub at this address has changed.</source>
-        <translation>O backup parou porque o hub neste endereço mudou.</translation>
+        <translation>A cópia de segurança parou porque o hub neste endereço mudou.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub and the client cannot communicate. Please update both.</source>
-        <translation>O backup parou porque o hub e o cliente não conseguem comunicar. Atualize ambos.</translation>
+        <translation>A cópia de segurança parou porque o hub e o cliente não conseguem comunicar. Atualize ambos.</translation>
     </message>
     <message>
         <source>The backup has stopped because this version of Tessaly is too old for the hub.</source>
-        <translation>O backup parou porque esta versão de Tessaly é demasiado antiga para o hub.</translation>
+        <translation>A cópia de segurança parou porque esta versão do Tessaly é demasiado antiga para o hub.</translation>
     </message>
     <message>
         <source>Please update Tessaly to version %1 or later.</source>
         <extracomment>Message: %1 is a version number.</extracomment>
-        <translation>Atualize Tessaly para a versão %1 ou posterior.</translation>
+        <translation>Atualize o Tessaly para a versão %1 ou posterior.</translation>
     </message>
     <message>
         <source>Please check your username and password, then sign in again.</source>
@@ -3386,12 +3246,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Please ask your administrator to update Tessaly Server on the hub.</source>
-        <translation>Peça ao administrador que atualize Tessaly Server no hub.</translation>
+        <translation>Peça ao administrador que atualize o Tessaly Server no hub.</translation>
     </message>
     <message>
         <source>Not backed up yet</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Ainda sem backup</translation>
+        <translation>Ainda sem cópia de segurança</translation>
     </message>
     <message>
         <source>Keep a folder on this computer and a folder on the hub identical.</source>
@@ -3404,12 +3264,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Choose the days and times at which the backup runs.</source>
-        <translation>Escolha os dias e as horas a que o backup é executado.</translation>
+        <translation>Escolha os dias e as horas a que a cópia de segurança é executada.</translation>
     </message>
     <message>
         <source>Run missed backups as soon as possible</source>
         <extracomment>Check box of a backup&apos;s schedule.</extracomment>
-        <translation>Executar assim que possível os backups não efetuados</translation>
+        <translation>Executar assim que possível as cópias de segurança não efetuadas</translation>
     </message>
     <message>
         <source>Choose a folder on each side.</source>
@@ -3431,19 +3291,19 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because signing in to the hub failed.</source>
-        <translation>O backup parou porque o início de sessão no hub falhou.</translation>
+        <translation>A cópia de segurança parou porque o início de sessão no hub falhou.</translation>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>A versão do pacote no hub não é suportada. Peça ao administrador que o atualize.</translation>
+        <translation>A versão do pacote no hub não é suportada. Peça ao administrador que faça a atualização.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
-        <translation>O backup parou porque o hub bloqueou o endereço IP deste computador.</translation>
+        <translation>A cópia de segurança parou porque o hub bloqueou o endereço IP deste computador.</translation>
     </message>
     <message>
         <source>The backup has stopped because the package on the hub is too old for this client.</source>
-        <translation>O backup parou porque o pacote no hub é demasiado antigo para este cliente.</translation>
+        <translation>A cópia de segurança parou porque o pacote no hub é demasiado antigo para este cliente.</translation>
     </message>
     <message>
         <source>Some of the selected folders no longer exist. Clear them to continue.</source>
@@ -3457,7 +3317,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
-        <translation>Já é possível instalar Kelvane Quay Client. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
+        <translation>Já é possível instalar o Kelvane Quay Client. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
     </message>
     <message>
         <source>Choose a type of task</source>
@@ -3474,7 +3334,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sign in to the hub that will store your backups.</source>
-        <translation>Inicie sessão no hub que irá armazenar os seus backups.</translation>
+        <translation>Inicie sessão no hub que irá armazenar as suas cópias de segurança.</translation>
     </message>
     <message>
         <source>Set up your sync folders</source>
@@ -3505,7 +3365,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Only upload changes to %1</source>
         <extracomment>Choice of the sync direction: changes are uploaded and never downloaded (&quot;only&quot; goes with &quot;upload&quot;); %1 is a product name.</extracomment>
-        <translation>Só enviar alterações para %1</translation>
+        <translation>Só enviar alterações para o %1</translation>
     </message>
     <message>
         <source>Sync the files that others share with me</source>
@@ -3515,7 +3375,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Back up temporary files</source>
         <extracomment>Check box of a backup task (verb: temporary files are backed up too).</extracomment>
-        <translation>Fazer backup dos ficheiros temporários</translation>
+        <translation>Fazer cópia de segurança dos ficheiros temporários</translation>
     </message>
     <message>
         <source>Files that others share with you will appear in a folder of their own on this computer.</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Seg</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Qui</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sáb</translation>
     </message>
     <message>
@@ -3576,7 +3436,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Almost done! Your files will soon be available in %1.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Está quase! Os seus ficheiros estarão em breve disponíveis em %1.</translation>
+        <translation>Está quase! Os seus ficheiros estarão em breve disponíveis no %1.</translation>
     </message>
     <message>
         <source>Enter 0 to set no limit.</source>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sex</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Dom</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Ter</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Qua</translation>
     </message>
     <message>
@@ -3687,12 +3547,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Next backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Próximo backup: %1</translation>
+        <translation>Próxima cópia de segurança: %1</translation>
     </message>
     <message>
         <source>Backup plan</source>
         <extracomment>Label of a task: on which days and at which times, as a whole; not the same as &quot;Backup schedule&quot;.</extracomment>
-        <translation>Plano de backup</translation>
+        <translation>Plano de cópias de segurança</translation>
     </message>
     <message>
         <source>Sharing link</source>
@@ -3707,7 +3567,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup tasks require %1 %2 or later on the hub. The installed version is %3.</source>
         <extracomment>Message: %1 is a product name, %2 and %3 are version numbers.</extracomment>
-        <translation>As tarefas de backup requerem %1 %2 ou posterior no hub. A versão instalada é a %3.</translation>
+        <translation>As tarefas de cópia de segurança requerem o %1 %2 ou posterior no hub. A versão instalada é a %3.</translation>
     </message>
     <message>
         <source>This computer is already linked to this hub with the same account.</source>
@@ -3724,16 +3584,16 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Welcome to Tessaly!</source>
-        <translation>Boas-vindas a Tessaly!</translation>
+        <translation>Boas-vindas ao Tessaly!</translation>
     </message>
     <message>
         <source>Click the Tessaly icon in the system tray to change the settings.</source>
-        <translation>Clique no ícone de Tessaly na área de notificação para alterar as definições.</translation>
+        <translation>Clique no ícone do Tessaly na área de notificação para alterar as definições.</translation>
     </message>
     <message>
         <source>Click the icon of %1 in the system tray to change the settings.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Clique no ícone de %1 na área de notificação para alterar as definições.</translation>
+        <translation>Clique no ícone do %1 na área de notificação para alterar as definições.</translation>
     </message>
     <message>
         <source>Synchronization has stopped because a volume of the hub is full.</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Atualizado</translation>
     </message>
     <message>
@@ -3777,7 +3635,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>You are ready to work with %1.</source>
         <extracomment>Message of the tutorial; %1 is a product name.</extracomment>
-        <translation>Está tudo pronto para trabalhar com %1.</translation>
+        <translation>Está tudo pronto para trabalhar com o %1.</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3797,7 +3655,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Please update %1 to version %2 or later.</source>
         <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
-        <translation>Atualize %1 para a versão %2 ou posterior.</translation>
+        <translation>Atualize o %1 para a versão %2 ou posterior.</translation>
     </message>
     <message>
         <source>Choose the files that the new task keeps in sync.</source>
@@ -3806,7 +3664,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Open the web portal of %1</source>
         <extracomment>Screen reader: names a button; %1 is a product name.</extracomment>
-        <translation>Abrir o portal Web de %1</translation>
+        <translation>Abrir o portal Web do %1</translation>
     </message>
     <message>
         <source>Kelvane Quay Client</source>
@@ -3816,12 +3674,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>The backup has stopped because this version of %1 is too old for the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>O backup parou porque esta versão de %1 é demasiado antiga para o hub.</translation>
+        <translation>A cópia de segurança parou porque esta versão do %1 é demasiado antiga para o hub.</translation>
     </message>
     <message>
         <source>Please ask your administrator to update %1 on the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Peça ao administrador que atualize %1 no hub.</translation>
+        <translation>Peça ao administrador que atualize o %1 no hub.</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; will be created at this location.</source>
@@ -3840,16 +3698,16 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Open the Kelvane Quay web portal</source>
         <extracomment>Menu item in the tray menu.</extracomment>
-        <translation>Abrir o portal Web de Kelvane Quay</translation>
+        <translation>Abrir o portal Web do Kelvane Quay</translation>
     </message>
     <message>
         <source>A newer version of Tessaly is already installed. Please remove it before you install Kelvane Quay Client.</source>
-        <translation>Já está instalada uma versão mais recente de Tessaly. Remova-a antes de instalar Kelvane Quay Client.</translation>
+        <translation>Já está instalada uma versão mais recente do Tessaly. Remova-a antes de instalar o Kelvane Quay Client.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to %1</source>
         <extracomment>Screen reader: names a page of the tutorial; %1 is a product name.</extracomment>
-        <translation>Página 1 do tutorial: boas-vindas a %1</translation>
+        <translation>Página 1 do tutorial: boas-vindas ao %1</translation>
     </message>
     <message>
         <source>Task type</source>
@@ -3863,7 +3721,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>The sync and backup features of Kelvane Quay Client can now be installed. Click Install to start or Back to check your settings.</source>
-        <translation>Já é possível instalar as funcionalidades de sincronização e backup de Kelvane Quay Client. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
+        <translation>Já é possível instalar as funcionalidades de sincronização e cópia de segurança do Kelvane Quay Client. Clique em Instalar para começar ou em Anterior para verificar as definições.</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Espaço libertado</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Disponibilizado neste computador</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>Não há espaço suficiente neste disco. %1 necessita de, pelo menos, %2 MB.</translation>
+        <translation>Não há espaço suficiente neste disco. O %1 necessita de, pelo menos, %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3964,7 +3818,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because your account is not allowed to use the package on the hub.</source>
-        <translation>O backup parou porque a sua conta não tem permissão para utilizar o pacote no hub.</translation>
+        <translation>A cópia de segurança parou porque a sua conta não tem permissão para utilizar o pacote no hub.</translation>
     </message>
     <message>
         <source>Sync the files and folders that other users share with you.</source>
@@ -3986,7 +3840,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
-        <translation>Este cliente requer %1 %2 ou posterior no hub. Peça ao administrador que faça a atualização.</translation>
+        <translation>Este cliente requer o %1 %2 ou posterior no hub. Peça ao administrador que faça a atualização.</translation>
     </message>
     <message>
         <source>You do not have permission to use the package on the hub. Please contact your administrator.</source>
@@ -3994,12 +3848,12 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The destination is already used by another backup task. Please choose another folder.</source>
-        <translation>O destino já é utilizado por outra tarefa de backup. Escolha outra pasta.</translation>
+        <translation>O destino já é utilizado por outra tarefa de cópia de segurança. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>%1 não consegue comunicar com o pacote no hub. Atualize ambos para a versão mais recente.</translation>
+        <translation>O %1 não consegue comunicar com o pacote no hub. Atualize ambos para a versão mais recente.</translation>
     </message>
     <message>
         <source>Only you can open the link</source>
@@ -4013,7 +3867,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Tessaly keeps your files identical on all your computers and protects them on the hub.</source>
-        <translation>Tessaly mantém os seus ficheiros idênticos em todos os seus computadores e protege-os no hub.</translation>
+        <translation>O Tessaly mantém os seus ficheiros idênticos em todos os seus computadores e protege-os no hub.</translation>
     </message>
     <message>
         <source>Share a file with a link. You decide who can view or edit it.</source>
@@ -4027,7 +3881,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>New to %1? Read the &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;quick start guide&lt;/a&gt; first.</source>
         <extracomment>Message: %1 is a product name; keep the link as it is.</extracomment>
-        <translation>É a primeira vez que utiliza %1? Leia primeiro o &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;guia de introdução&lt;/a&gt;.</translation>
+        <translation>É a primeira vez que utiliza o %1? Leia primeiro o &lt;a href=&quot;https://help.kelvane.example/quay/start&quot;&gt;guia de introdução&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
@@ -4040,7 +3894,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Welcome to Tessaly</source>
         <extracomment>Heading of the first page of the tutorial.</extracomment>
-        <translation>Boas-vindas a Tessaly</translation>
+        <translation>Boas-vindas ao Tessaly</translation>
     </message>
     <message>
         <source>Share with others</source>
@@ -4063,7 +3917,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>%1 and the client have different versions. Please update both to the same version.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>%1 e o cliente têm versões diferentes. Atualize ambos para a mesma versão.</translation>
+        <translation>O %1 e o cliente têm versões diferentes. Atualize ambos para a mesma versão.</translation>
     </message>
     <message>
         <source>Files being processed: %1</source>
@@ -4103,16 +3957,16 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Choose the folders to back up and where to store the backups.</source>
-        <translation>Escolha as pastas para o backup e onde armazenar os backups.</translation>
+        <translation>Escolha as pastas para a cópia de segurança e onde armazenar as cópias de segurança.</translation>
     </message>
     <message>
         <source>Choose what to back up</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Escolha o que incluir no backup</translation>
+        <translation>Escolha o que incluir na cópia de segurança</translation>
     </message>
     <message>
         <source>The backup has stopped because your account has been disabled on the hub.</source>
-        <translation>O backup parou porque a sua conta foi desativada no hub.</translation>
+        <translation>A cópia de segurança parou porque a sua conta foi desativada no hub.</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -4153,7 +4007,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The backup failed. Please try again.</source>
-        <translation>O backup falhou. Tente novamente.</translation>
+        <translation>A cópia de segurança falhou. Tente novamente.</translation>
     </message>
     <message>
         <source>The task could not be created. Please try again.</source>
@@ -4199,16 +4053,16 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The backup was canceled.</source>
-        <translation>O backup foi cancelado.</translation>
+        <translation>A cópia de segurança foi cancelada.</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
-        <translation>O backup está concluído.</translation>
+        <translation>A cópia de segurança está concluída.</translation>
     </message>
     <message>
         <source>Back up %1 times a day</source>
         <extracomment>Choice: how often a backup runs; %1 is a number, more than one.</extracomment>
-        <translation>Fazer backup %1 vezes por dia</translation>
+        <translation>Fazer cópia de segurança %1 vezes por dia</translation>
     </message>
     <message>
         <source>times</source>
@@ -4217,18 +4071,16 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
-        <translation>Modo de backup</translation>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <translation>Modo de cópia de segurança</translation>
     </message>
     <message>
         <source>Do you want to start the backup now?</source>
-        <translation>Pretende iniciar o backup agora?</translation>
+        <translation>Pretende iniciar a cópia de segurança agora?</translation>
     </message>
     <message>
         <source>If this computer is turned off or asleep at the scheduled time, the backup starts as soon as it is running again.</source>
-        <translation>Se este computador estiver desligado ou suspenso à hora agendada, o backup começa assim que voltar a funcionar.</translation>
+        <translation>Se este computador estiver desligado ou suspenso à hora agendada, a cópia de segurança começa assim que voltar a funcionar.</translation>
     </message>
     <message>
         <source>Please select at least one day of the week.</source>
@@ -4237,7 +4089,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Last backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Último backup: %1</translation>
+        <translation>Última cópia de segurança: %1</translation>
     </message>
     <message>
         <source>Every day</source>
@@ -4247,7 +4099,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Manual backup</source>
         <extracomment>Choice of the backup mode (noun): runs when the user starts it.</extracomment>
-        <translation>Backup manual</translation>
+        <translation>Cópia de segurança manual</translation>
     </message>
     <message>
         <source>Once a day</source>
@@ -4257,17 +4109,17 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Continuous backup</source>
         <extracomment>Choice of the backup mode (noun): runs as soon as a file changes.</extracomment>
-        <translation>Backup contínuo</translation>
+        <translation>Cópia de segurança contínua</translation>
     </message>
     <message>
         <source>Scheduled backup</source>
         <extracomment>Choice of the backup mode (noun): runs at set times.</extracomment>
-        <translation>Backup agendado</translation>
+        <translation>Cópia de segurança agendada</translation>
     </message>
     <message>
         <source>Set the backup plan</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Definir o plano de backup</translation>
+        <translation>Definir o plano de cópias de segurança</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
@@ -4276,18 +4128,16 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>The backup plan could not be saved. Please try again.</source>
-        <translation>Não foi possível guardar o plano de backup. Tente novamente.</translation>
+        <translation>Não foi possível guardar o plano de cópias de segurança. Tente novamente.</translation>
     </message>
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Introduza um tamanho de 0 a %1 MB. Introduza 0 para não definir um limite.</translation>
+        <translation>Introduza um tamanho de 0 a %1&#xa0;MB. Introduza 0 para não definir um limite.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Ligação</translation>
     </message>
     <message>
@@ -4362,12 +4212,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Backup tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Tarefas de backup</translation>
+        <translation>Tarefas de cópia de segurança</translation>
     </message>
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Sincronizações</translation>
+        <translation>Tarefas de sincronização</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4382,7 +4232,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Back up now</source>
         <extracomment>Button: starts the backup at once (verb).</extracomment>
-        <translation>Fazer backup agora</translation>
+        <translation>Fazer cópia de segurança agora</translation>
     </message>
     <message>
         <source>Files</source>
@@ -4412,11 +4262,11 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>This folder is already part of a backup task of %1. Please choose another folder.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Esta pasta já faz parte de uma tarefa de backup de %1. Escolha outra pasta.</translation>
+        <translation>Esta pasta já faz parte de uma tarefa de cópia de segurança do %1. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>This folder is already synced by Kelvane Quay Client and cannot be backed up as well. Please choose another folder.</source>
-        <translation>Esta pasta já é sincronizada por Kelvane Quay Client e não pode ser também incluída num backup. Escolha outra pasta.</translation>
+        <translation>Esta pasta já é sincronizada pelo Kelvane Quay Client e não pode ser também incluída numa cópia de segurança. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>IP address</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>A versão de Tessaly Server no hub é demasiado antiga para %1. Peça ao administrador que a atualize.</translation>
+        <translation>A versão do Tessaly Server no hub é demasiado antiga para o %1. Peça ao administrador que faça a atualização.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4589,11 +4439,11 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Introduza um tamanho inferior a %1 MB.</translation>
+        <translation>Introduza um tamanho inferior a %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
-        <translation>Esta pasta já faz parte de outra tarefa de backup. Escolha outra pasta.</translation>
+        <translation>Esta pasta já faz parte de outra tarefa de cópia de segurança. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>The task has stopped because of an unexpected error. Please restart the application.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4627,7 +4477,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>The backup has stopped because the SSL certificate of the hub has changed.</source>
-        <translation>O backup parou porque o certificado SSL do hub mudou.</translation>
+        <translation>A cópia de segurança parou porque o certificado SSL do hub mudou.</translation>
     </message>
     <message>
         <source>The SSL certificate of the hub has expired. Please contact your administrator.</source>

@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Удалено</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Отвязать</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Подключиться через Ferrylink</translation>
     </message>
     <message>
@@ -40,9 +30,7 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Ошибка</translation>
     </message>
     <message>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
-        <translation>Готово</translation>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
+        <translation>Завершить</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Локальная папка</translation>
     </message>
     <message>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Скачано</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>ОК</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Отмена</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Далее</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Назад</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Отправлено</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
-        <translation>Настроить</translation>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
+        <translation>Задать вручную</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Время</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Ваша квота хранилища на хабе исчерпана. Освободите место и повторите попытку.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Настройки</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Общие папки</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Пароль</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Состояние</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Применить</translation>
     </message>
     <message>
@@ -453,10 +401,8 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
-        <translation>Управление</translation>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
+        <translation>Управлять</translation>
     </message>
     <message>
         <source>The proxy server requires sign-in</source>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Что-то пошло не так</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Использовать черно-белый значок в области уведомлений</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Папка</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Удалить</translation>
     </message>
     <message>
@@ -631,13 +561,11 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     <message>
         <source>Destination</source>
         <extracomment>Column head of the list of files: the folder that a file goes to.</extracomment>
-        <translation>Назначение</translation>
+        <translation>Место назначения</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Подготовка...</translation>
     </message>
     <message>
@@ -688,7 +616,7 @@ Status: state of a file before its transfer.</extracomment>
     <message>
         <source>Advanced settings</source>
         <extracomment>Button: opens further settings of a task.</extracomment>
-        <translation>Дополнительные настройки</translation>
+        <translation>Расширенные настройки</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
         <translation>Режим синхронизации</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>Приостановлено</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Отказано в доступе</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Получить ссылку</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Приостановить</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Возобновить</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Действие</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Имя файла</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Размер</translation>
     </message>
     <message>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Не закрывать приложения. После установки потребуется перезагрузить компьютер.</translation>
     </message>
     <message>
@@ -1025,7 +925,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Click Finish to close Setup.</source>
         <extracomment>Message of the installer; Finish is its button.</extracomment>
-        <translation>Для выхода из программы установки нажмите «Готово».</translation>
+        <translation>Для выхода из программы установки нажмите «Завершить».</translation>
     </message>
     <message>
         <source>The drive that holds the local folder is not connected.</source>
@@ -1035,13 +935,11 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>Repair [ProductName]</source>
         <extracomment>Tooltip of the installer&apos;s button; [ProductName] becomes a product name.</extracomment>
-        <translation>Восстановить [ProductName]</translation>
+        <translation>Исправить [ProductName]</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Просмотреть предыдущие версии</translation>
     </message>
     <message>
@@ -1059,7 +957,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
-        <translation>Произошла ошибка, и установить [ProductName] не удалось. Все изменения, внесенные программой установки, отменены. Вы можете запустить ее снова в любое время.</translation>
+        <translation>Произошла ошибка, и установить [ProductName] не удалось. Все изменения, внесенные программой установки, отменены. Вы можете запустить программу установки снова в любое время.</translation>
     </message>
     <message>
         <source>Ignore</source>
@@ -1089,7 +987,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     <message>
         <source>Use this wizard to change, repair, or remove [ProductName]. Click Next to continue or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Next and Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>С помощью этого мастера можно изменить, восстановить или удалить [ProductName]. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
+        <translation>С помощью этого мастера можно изменить, исправить или удалить [ProductName]. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
         <source>Remove [ProductName]</source>
@@ -1108,7 +1006,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>В этих приложениях открыты файлы, которые программа установки [ProductName] должна заменить:</translation>
     </message>
     <message>
@@ -1118,15 +1016,13 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
-        <translation>Восстановить</translation>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
+        <translation>Исправить</translation>
     </message>
     <message>
         <source>Installing [ProductName]</source>
         <extracomment>Heading of an installer page while it works; [ProductName] becomes a product name.</extracomment>
-        <translation>Установка [ProductName]</translation>
+        <translation>Выполняется установка [ProductName]</translation>
     </message>
     <message>
         <source>The local folder is missing. It may have been moved, renamed, or deleted.</source>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Да</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Закрыть приложения сейчас и снова открыть их после завершения установки.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Изменить</translation>
     </message>
     <message>
@@ -1188,7 +1080,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>You can change, repair, or remove the installed program.</source>
-        <translation>Установленную программу можно изменить, восстановить или удалить.</translation>
+        <translation>Установленную программу можно изменить, исправить или удалить.</translation>
     </message>
     <message>
         <source>Removes the program and its settings from your computer.</source>
@@ -1222,17 +1114,17 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Setup is about to repair the program.</source>
-        <translation>Программа установки готова восстановить программу.</translation>
+        <translation>Программа установки готова исправить программу.</translation>
     </message>
     <message>
         <source>Ready to repair [ProductName]</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Все готово к восстановлению [ProductName]</translation>
+        <translation>Все готово к исправлению [ProductName]</translation>
     </message>
     <message>
         <source>Click Repair to start, Back to choose another action, or Cancel to leave Setup.</source>
         <extracomment>Message of the installer: Repair, Back, Cancel are buttons; to leave is to cancel, not to complete.</extracomment>
-        <translation>Нажмите «Восстановить», чтобы начать, «Назад», чтобы выбрать другое действие, или «Отмена», чтобы выйти из программы установки.</translation>
+        <translation>Нажмите «Исправить», чтобы начать, «Назад», чтобы выбрать другое действие, или «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
         <source>You left Setup before [ProductName] was installed. Nothing on your computer was changed. You can run Setup again at any time.</source>
@@ -1312,7 +1204,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>This is not the hub that %1 was linked to. Please link this computer again.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Это не тот хаб, к которому привязан %1. Привяжите этот компьютер снова.</translation>
+        <translation>Это не тот хаб, к которому привязано приложение %1. Привяжите этот компьютер снова.</translation>
     </message>
     <message>
         <source>Sharing is disabled for your account.</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Вчера</translation>
     </message>
     <message>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 ч назад</translation>
+        <translation>Часов назад: %1</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Переименовано</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 дн. назад</translation>
+        <translation>Дней назад: %1</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 мин назад</translation>
+        <translation>Минут назад: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Файл</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Тип</translation>
     </message>
     <message>
@@ -1604,10 +1488,8 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Расширенная настройка</translation>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <translation>Настройка в расширенном режиме</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Имя пользователя</translation>
     </message>
     <message>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Файлы размером более %1 МБ не будут синхронизироваться.</translation>
+        <translation>Файлы размером более %1&#xa0;МБ не будут синхронизироваться.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1859,7 +1739,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>В обоих направлениях</translation>
+        <translation>Двусторонняя синхронизация</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Синхронизация</translation>
     </message>
     <message>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Хаб</translation>
     </message>
     <message>
@@ -2258,9 +2134,7 @@ Label beside the field for the hub&apos;s address.</extracomment>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Папка на хабе</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Уведомления</translation>
     </message>
     <message>
@@ -2367,7 +2237,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>%1 is now linked to the hub and will keep your files in sync.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>%1 теперь привязан к хабу и будет синхронизировать ваши файлы.</translation>
+        <translation>Приложение %1 теперь привязано к хабу и будет синхронизировать ваши файлы.</translation>
     </message>
     <message>
         <source>Setup has collected all the information that it needs.</source>
@@ -2381,7 +2251,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>%1 is already running.</source>
         <extracomment>Message in a box; %1 is a product name.</extracomment>
-        <translation>%1 уже запущен.</translation>
+        <translation>Приложение %1 уже запущено.</translation>
     </message>
     <message>
         <source>%1 keeps the files on your computers and on the hub identical.</source>
@@ -2391,7 +2261,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>Preview and comment</source>
         <extracomment>Choice: a right on a shared file: look at it without downloading it, and comment on it (verbs).</extracomment>
-        <translation>Просмотр и комментирование</translation>
+        <translation>Предпросмотр и комментирование</translation>
     </message>
     <message>
         <source>%1 could not be updated. Please try again later.</source>
@@ -2428,7 +2298,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     <message>
         <source>The Ferrylink ID does not exist, or %1 is not running on the hub.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Этот Ferrylink ID не существует, или %1 не запущен на хабе.</translation>
+        <translation>Этот Ferrylink ID не существует, или приложение %1 не запущено на хабе.</translation>
     </message>
     <message>
         <source>Only shared folders that have been enabled in %1 are listed here.</source>
@@ -2457,15 +2327,13 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Несовпадение версий</translation>
     </message>
     <message>
         <source>The disk is full. Free up some space on this computer so that %1 can continue.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Диск заполнен. Чтобы %1 мог продолжить работу, освободите место на этом компьютере.</translation>
+        <translation>Диск заполнен. Освободите место на этом компьютере, чтобы приложение %1 могло продолжить работу.</translation>
     </message>
     <message>
         <source>%1 has encountered a problem. Please restart it.</source>
@@ -2490,7 +2358,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>%1 is set up. Open your folder to start working.</source>
         <extracomment>Message of the wizard&apos;s last page; %1 is a product name.</extracomment>
-        <translation>%1 настроен. Откройте свою папку, чтобы начать работу.</translation>
+        <translation>Приложение %1 настроено. Откройте свою папку, чтобы начать работу.</translation>
     </message>
     <message>
         <source>Tutorial page 1: welcome to Tessaly</source>
@@ -2560,7 +2428,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>The Ferrylink ID does not exist, or Tessaly Server is not running on the hub.</source>
-        <translation>Этот Ferrylink ID не существует, или Tessaly Server не запущен на хабе.</translation>
+        <translation>Этот Ferrylink ID не существует, или приложение Tessaly Server не запущено на хабе.</translation>
     </message>
     <message>
         <source>This version of Tessaly is too old for the hub. Please update it.</source>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>Версия Tessaly Server на хабе слишком старая для этого клиента. Попросите администратора обновить ее.</translation>
+        <translation>Версия Tessaly Server на хабе слишком старая для этого клиента. Попросите администратора выполнить обновление.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>На этом диске недостаточно места. Для Tessaly требуется не менее %1 МБ.</translation>
+        <translation>На этом диске недостаточно места. Для Tessaly требуется не менее %1&#xa0;МБ.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Скачать</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Поделиться</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Сохранять файлы на хабе при их удалении с этого компьютера</translation>
     </message>
     <message>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Всегда хранить на этом компьютере</translation>
     </message>
     <message>
@@ -3104,7 +2964,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Connecting...</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Подключение...</translation>
+        <translation>Выполняется подключение...</translation>
     </message>
     <message>
         <source>Sync task</source>
@@ -3129,12 +2989,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>Резервное копирование завершено. Компьютер выключится через %1 с.</translation>
+        <translation>Резервное копирование завершено. Компьютер выключится через %1&#xa0;с.</translation>
     </message>
     <message>
         <source>Backup task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Задача копирования</translation>
+        <translation>Задача резервного копирования</translation>
     </message>
     <message>
         <source>Run on the following days</source>
@@ -3217,12 +3077,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup destination</source>
         <extracomment>Label beside the path of the folder on the hub that backups are stored in (a place, not a purpose).</extracomment>
-        <translation>Место хранения резервных копий</translation>
+        <translation>Место назначения резервных копий</translation>
     </message>
     <message>
         <source>Files are backed up when you click Back up now.</source>
         <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
-        <translation>Резервные копии файлов создаются при нажатии кнопки «Создать копию сейчас».</translation>
+        <translation>Резервные копии файлов создаются при нажатии кнопки «Создать резервную копию сейчас».</translation>
     </message>
     <message>
         <source>Allow downloads</source>
@@ -3237,7 +3097,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup schedule</source>
         <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
-        <translation>Расписание копирования</translation>
+        <translation>Расписание резервного копирования</translation>
     </message>
     <message>
         <source>Manager</source>
@@ -3247,7 +3107,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Previewer</source>
         <extracomment>Choice: a role (noun, a person): may look at a file without downloading it; beside Viewer, Commenter, Editor, Manager.</extracomment>
-        <translation>Только просмотр</translation>
+        <translation>Только предпросмотр</translation>
     </message>
     <message>
         <source>Create a backup task</source>
@@ -3278,7 +3138,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
         <extracomment>Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.</extracomment>
-        <translation>Файлов скопировано в папку «%3»: %1 (%2), %4</translation>
+        <translation>Файлов в резервной копии: %1 (%2), место назначения: «%3», дата: %4</translation>
     </message>
     <message>
         <source>History</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>Версия пакета на хабе не поддерживается. Попросите администратора обновить его.</translation>
+        <translation>Версия пакета на хабе не поддерживается. Попросите администратора выполнить обновление.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Пн</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Чт</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Сб</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Пт</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Вс</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Вт</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Ср</translation>
     </message>
     <message>
@@ -3687,12 +3547,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Next backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Следующее копирование: %1</translation>
+        <translation>Следующее резервное копирование: %1</translation>
     </message>
     <message>
         <source>Backup plan</source>
         <extracomment>Label of a task: on which days and at which times, as a whole; not the same as &quot;Backup schedule&quot;.</extracomment>
-        <translation>План копирования</translation>
+        <translation>План резервного копирования</translation>
     </message>
     <message>
         <source>Sharing link</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Актуально</translation>
     </message>
     <message>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Место освобождено</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Теперь доступно на этом компьютере</translation>
     </message>
     <message>
@@ -3943,7 +3797,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>На этом диске недостаточно места. Для %1 требуется не менее %2 МБ.</translation>
+        <translation>На этом диске недостаточно места. Для %1 требуется не менее %2&#xa0;МБ.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -3994,7 +3848,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>The destination is already used by another backup task. Please choose another folder.</source>
-        <translation>Это место уже используется другой задачей резервного копирования. Выберите другую папку.</translation>
+        <translation>Это место назначения уже используется другой задачей резервного копирования. Выберите другую папку.</translation>
     </message>
     <message>
         <source>%1 cannot communicate with the package on the hub. Please update both to the latest version.</source>
@@ -4117,7 +3971,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Syncing...</source>
         <extracomment>Status of a task.</extracomment>
-        <translation>Синхронизация...</translation>
+        <translation>Идет синхронизация...</translation>
     </message>
     <message>
         <source>Please ask your administrator to enable your account.</source>
@@ -4217,10 +4071,8 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
-        <translation>Режим копирования</translation>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <translation>Режим резервного копирования</translation>
     </message>
     <message>
         <source>Do you want to start the backup now?</source>
@@ -4237,7 +4089,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Last backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Последнее копирование: %1</translation>
+        <translation>Последнее резервное копирование: %1</translation>
     </message>
     <message>
         <source>Every day</source>
@@ -4247,7 +4099,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Manual backup</source>
         <extracomment>Choice of the backup mode (noun): runs when the user starts it.</extracomment>
-        <translation>Копирование вручную</translation>
+        <translation>Резервное копирование вручную</translation>
     </message>
     <message>
         <source>Once a day</source>
@@ -4257,17 +4109,17 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Continuous backup</source>
         <extracomment>Choice of the backup mode (noun): runs as soon as a file changes.</extracomment>
-        <translation>Непрерывное копирование</translation>
+        <translation>Непрерывное резервное копирование</translation>
     </message>
     <message>
         <source>Scheduled backup</source>
         <extracomment>Choice of the backup mode (noun): runs at set times.</extracomment>
-        <translation>Копирование по расписанию</translation>
+        <translation>Резервное копирование по расписанию</translation>
     </message>
     <message>
         <source>Set the backup plan</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Настройка плана копирования</translation>
+        <translation>Настройка плана резервного копирования</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
@@ -4276,18 +4128,16 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>The backup plan could not be saved. Please try again.</source>
-        <translation>Не удалось сохранить план копирования. Повторите попытку.</translation>
+        <translation>Не удалось сохранить план резервного копирования. Повторите попытку.</translation>
     </message>
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Введите размер от 0 до %1 МБ. Введите 0, чтобы снять ограничение.</translation>
+        <translation>Введите размер от 0 до %1&#xa0;МБ. Введите 0, чтобы снять ограничение.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Подключение</translation>
     </message>
     <message>
@@ -4362,7 +4212,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Backup tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Задачи копирования</translation>
+        <translation>Задачи резервного копирования</translation>
     </message>
     <message>
         <source>Sync tasks</source>
@@ -4382,7 +4232,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Back up now</source>
         <extracomment>Button: starts the backup at once (verb).</extracomment>
-        <translation>Создать копию сейчас</translation>
+        <translation>Создать резервную копию сейчас</translation>
     </message>
     <message>
         <source>Files</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>Версия Tessaly Server на хабе слишком старая для %1. Попросите администратора обновить ее.</translation>
+        <translation>Версия Tessaly Server на хабе слишком старая для %1. Попросите администратора выполнить обновление.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Введите размер меньше %1 МБ.</translation>
+        <translation>Введите размер меньше %1&#xa0;МБ.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>

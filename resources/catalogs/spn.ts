@@ -5,27 +5,17 @@
     <name>global</name>
     <message>
         <source>Deleted</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was deleted).
-----------
-Event in the history: what happened to the file (participle; the file was deleted).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was deleted).</extracomment>
         <translation>Eliminado</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <extracomment>Menu item in the task&apos;s menu: ends the link between this computer and the hub.
-----------
-Button of a connection: ends the link between this computer and the hub (verb).
-----------
-Button: ends the link between this computer and the hub (verb).
-----------
-Button: ends a task&apos;s link with the hub (verb).</extracomment>
+        <extracomment>Menu item/Button: ends the link between this computer and the hub (verb).</extracomment>
         <translation>Desvincular</translation>
     </message>
     <message>
         <source>Connect through Ferrylink</source>
-        <extracomment>Check box in the connection settings; Ferrylink is the name of a relay service.
-----------
-Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
+        <extracomment>Check box/Menu item in the connection settings; Ferrylink is the name of a relay service.</extracomment>
         <translation>Conectar mediante Ferrylink</translation>
     </message>
     <message>
@@ -40,15 +30,13 @@ Menu item in the connection settings; Ferrylink is the name of a relay service.<
     </message>
     <message>
         <source>Error</source>
-        <extracomment>Heading of a message box; also the state of a task that failed.
-----------
-Status of a task.</extracomment>
+        <extracomment>Heading/Status: title of a message box, and the state of a task that failed.</extracomment>
         <translation>Error</translation>
     </message>
     <message>
         <source>File conflicts occurred. The file is now renamed as %1.</source>
         <extracomment>Message: %1 is the new file name.</extracomment>
-        <translation>Se han producido conflictos de archivos. El archivo se llama ahora %1.</translation>
+        <translation>Se han producido conflictos de archivos. El archivo se ha renombrado como %1.</translation>
     </message>
     <message>
         <source>The value is invalid. Please check it and try again.</source>
@@ -60,16 +48,12 @@ Status of a task.</extracomment>
     </message>
     <message>
         <source>Finish</source>
-        <extracomment>Button on the last page of a wizard: completes the set-up.
-----------
-Button of the installer, on its last page (verb).</extracomment>
+        <extracomment>Button on the last page of a wizard and of the installer (verb).</extracomment>
         <translation>Finalizar</translation>
     </message>
     <message>
         <source>Local folder</source>
-        <extracomment>Label above the path of the folder on this computer.
-----------
-Column head of the list of shared folders: where each is on this computer.</extracomment>
+        <extracomment>Label/Column head: above the path of the folder on this computer, and of a list of such folders.</extracomment>
         <translation>Carpeta local</translation>
     </message>
     <message>
@@ -147,7 +131,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     <message>
         <source>Welcome</source>
         <extracomment>Heading of the first page of a wizard, alone.</extracomment>
-        <translation>Bienvenida</translation>
+        <translation>Le damos la bienvenida</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -161,9 +145,7 @@ Column head of the list of shared folders: where each is on this computer.</extr
     </message>
     <message>
         <source>Downloaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was downloaded).
-----------
-Event in the history: what happened to the file (participle; the file was downloaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was downloaded).</extracomment>
         <translation>Descargado</translation>
     </message>
     <message>
@@ -173,32 +155,22 @@ Event in the history: what happened to the file (participle; the file was downlo
     </message>
     <message>
         <source>OK</source>
-        <extracomment>Button: closes a box and takes what was entered.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and takes what was entered, in the installer too.</extracomment>
         <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: closes a box and drops what was entered.
-----------
-Button: drops the changes on the proxy page.
-----------
-Button of the installer.</extracomment>
+        <extracomment>Button: closes a box and drops what was entered, in the installer too (verb).</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
         <source>Next</source>
-        <extracomment>Button: goes to the next page of a wizard.
-----------
-Button of the installer: goes to the next page.</extracomment>
+        <extracomment>Button: goes to the next page of a wizard and of the installer.</extracomment>
         <translation>Siguiente</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button: goes to the page before in a wizard.
-----------
-Button of the installer: goes to the page before.</extracomment>
+        <extracomment>Button: goes to the page before in a wizard and in the installer.</extracomment>
         <translation>Atrás</translation>
     </message>
     <message>
@@ -223,25 +195,17 @@ Button of the installer: goes to the page before.</extracomment>
     </message>
     <message>
         <source>Uploaded</source>
-        <extracomment>Event: what happened to the file named beside it (participle; the file was uploaded).
-----------
-Event in the history: what happened to the file (participle; the file was uploaded).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was uploaded).</extracomment>
         <translation>Subido</translation>
     </message>
     <message>
         <source>Customize</source>
-        <extracomment>Choice: last entry of a list of filters: the user sets one (verb).
-----------
-Choice of a list of periods: the user sets one (verb).</extracomment>
+        <extracomment>Choice: last entry of a list of filters or periods: the user sets one (verb).</extracomment>
         <translation>Personalizar</translation>
     </message>
     <message>
         <source>Time</source>
-        <extracomment>Label beside a time of day.
-----------
-Column head of the list of files: when it happened.
-----------
-Column head of the history: when it happened.</extracomment>
+        <extracomment>Label/Column head: beside a time of day, and when something happened to a file.</extracomment>
         <translation>Hora</translation>
     </message>
     <message>
@@ -289,9 +253,7 @@ Column head of the history: when it happened.</extracomment>
     </message>
     <message>
         <source>Your storage quota on the hub is used up. Please free up some space and try again.</source>
-        <extracomment>Message of a task, and of a notification.
-----------
-Message of a task.</extracomment>
+        <extracomment>Message of a task, and of a notification.</extracomment>
         <translation>Ha agotado su cuota de almacenamiento en el hub. Libere espacio e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -306,11 +268,7 @@ Message of a task.</extracomment>
     </message>
     <message>
         <source>Settings</source>
-        <extracomment>Menu item in the tray menu: opens the settings.
-----------
-Button: opens the settings.
-----------
-Tab of the main window.</extracomment>
+        <extracomment>Menu item/Button/Tab: opens the settings.</extracomment>
         <translation>Configuración</translation>
     </message>
     <message>
@@ -320,9 +278,7 @@ Tab of the main window.</extracomment>
     </message>
     <message>
         <source>Shared folders</source>
-        <extracomment>Heading of the page of the folders that the hub shares (noun; folders).
-----------
-Tab of the settings: the folders that the hub shares.</extracomment>
+        <extracomment>Heading/Tab: the folders that the hub shares (noun; folders).</extracomment>
         <translation>Carpetas compartidas</translation>
     </message>
     <message>
@@ -357,11 +313,7 @@ Tab of the settings: the folders that the hub shares.</extracomment>
     </message>
     <message>
         <source>Password</source>
-        <extracomment>Label beside the field for the proxy server&apos;s password.
-----------
-Label beside a field.
-----------
-Label beside a field of a sharing link.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Contraseña</translation>
     </message>
     <message>
@@ -434,16 +386,12 @@ Label beside a field of a sharing link.</extracomment>
     </message>
     <message>
         <source>Status</source>
-        <extracomment>Column head of the list of shared folders: whether the folder is synced.
-----------
-Column head of the list of files: whether the file is synced.</extracomment>
+        <extracomment>Column head: whether a folder or file is synced.</extracomment>
         <translation>Estado</translation>
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>Button: takes over the changes on the proxy page (verb).
-----------
-Button: takes over the changes (verb).</extracomment>
+        <extracomment>Button: takes over the changes (verb).</extracomment>
         <translation>Aplicar</translation>
     </message>
     <message>
@@ -453,9 +401,7 @@ Button: takes over the changes (verb).</extracomment>
     </message>
     <message>
         <source>Manage</source>
-        <extracomment>Menu item in the tray menu: opens the page on which tasks are managed (verb).
-----------
-Button: opens the page on which a thing is managed (verb).</extracomment>
+        <extracomment>Menu item/Button: opens the page on which tasks or other things are managed (verb).</extracomment>
         <translation>Administrar</translation>
     </message>
     <message>
@@ -465,9 +411,7 @@ Button: opens the page on which a thing is managed (verb).</extracomment>
     </message>
     <message>
         <source>Something went wrong</source>
-        <extracomment>Status, short, in the tray: an unexpected error.
-----------
-Status, short, of a task: an unexpected error.</extracomment>
+        <extracomment>Status, short, in the tray and of a task: an unexpected error.</extracomment>
         <translation>Se ha producido un problema</translation>
     </message>
     <message>
@@ -507,9 +451,7 @@ Status, short, of a task: an unexpected error.</extracomment>
     </message>
     <message>
         <source>Use a black-and-white icon in the system tray</source>
-        <extracomment>Check box of the general options.
-----------
-Check box of the display settings.</extracomment>
+        <extracomment>Check box of the general options, and of the display settings.</extracomment>
         <translation>Usar un icono en blanco y negro en la bandeja del sistema</translation>
     </message>
     <message>
@@ -595,11 +537,7 @@ Check box of the display settings.</extracomment>
     </message>
     <message>
         <source>Folder</source>
-        <extracomment>Choice: a type of item in a filter or list (noun, singular).
-----------
-Choice of a filter of the history: a type of item (noun, singular).
-----------
-Tab of a task&apos;s settings: the two folders.</extracomment>
+        <extracomment>Choice/Tab: a type of item in a filter or list, and the page with the two folders of a task (noun, singular).</extracomment>
         <translation>Carpeta</translation>
     </message>
     <message>
@@ -613,15 +551,7 @@ Tab of a task&apos;s settings: the two folders.</extracomment>
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button: takes the shared folder off the list; its files are kept.
-----------
-Button of the installer: takes the program off the computer (verb).
-----------
-Label of the installer, beside its button: takes the program off the computer (verb).
-----------
-Button: takes an entry off a list (verb).
-----------
-Menu item: takes away someone&apos;s right on a shared file (verb).</extracomment>
+        <extracomment>Button/Menu item/Label: takes an entry off a list, someone&apos;s right off a file, the program off the computer (verb).</extracomment>
         <translation>Quitar</translation>
     </message>
     <message>
@@ -635,9 +565,7 @@ Menu item: takes away someone&apos;s right on a shared file (verb).</extracommen
     </message>
     <message>
         <source>Preparing...</source>
-        <extracomment>Status: state of a task or a file before its transfer.
-----------
-Status: state of a file before its transfer.</extracomment>
+        <extracomment>Status: state of a task or a file before its transfer.</extracomment>
         <translation>Preparando...</translation>
     </message>
     <message>
@@ -736,16 +664,12 @@ Status: state of a file before its transfer.</extracomment>
     </message>
     <message>
         <source>Sync mode</source>
-        <extracomment>Label beside a list: two-way sync, upload only, download only (the way in which is synced).
-----------
-Heading of a page: two-way sync, upload only, download only (the way in which is synced).</extracomment>
-        <translation>Sincronización</translation>
+        <extracomment>Label/Heading: two-way sync, upload only, download only (the way in which is synced).</extracomment>
+        <translation>Modo de sincronización</translation>
     </message>
     <message>
         <source>Paused</source>
-        <extracomment>Status in the tray: the task or the client was paused.
-----------
-Status of a task: the task was paused.</extracomment>
+        <extracomment>Status in the tray and of a task (participle; the task or the client was paused).</extracomment>
         <translation>En pausa</translation>
     </message>
     <message>
@@ -777,11 +701,7 @@ Status of a task: the task was paused.</extracomment>
     </message>
     <message>
         <source>Permission denied</source>
-        <extracomment>Status, short: the user may not use the shared folder.
-----------
-Status, short, of a task: the user may not do this.
-----------
-Heading of the state of a task.</extracomment>
+        <extracomment>Status/Heading, short: the user may not do this, or not use the shared folder.</extracomment>
         <translation>Permiso denegado</translation>
     </message>
     <message>
@@ -800,9 +720,7 @@ Heading of the state of a task.</extracomment>
     </message>
     <message>
         <source>Get link</source>
-        <extracomment>Menu item of the file manager: makes a link (URL) to the file and copies it.
-----------
-Menu item: makes a link (URL) to the file and copies it.</extracomment>
+        <extracomment>Menu item: makes a link (URL) to the file and copies it.</extracomment>
         <translation>Obtener enlace</translation>
     </message>
     <message>
@@ -827,24 +745,12 @@ Menu item: makes a link (URL) to the file and copies it.</extracomment>
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Button of a connection: interrupts all its tasks for a while (verb).
-----------
-Button of a task: interrupts it for a while (verb).
-----------
-Button: interrupts all tasks for a while (verb).
-----------
-Menu item in the tray menu: interrupts all tasks for a while (verb).</extracomment>
+        <extracomment>Button/Menu item: interrupts a task, or all, for a while (verb).</extracomment>
         <translation>Pausar</translation>
     </message>
     <message>
         <source>Resume</source>
-        <extracomment>Button of a connection: goes on with its tasks after a pause (verb).
-----------
-Button of a task: goes on after a pause (verb).
-----------
-Button: goes on with all tasks after a pause (verb).
-----------
-Menu item in the tray menu: goes on with all tasks after a pause (verb).</extracomment>
+        <extracomment>Button/Menu item: goes on with a task, or all, after a pause (verb).</extracomment>
         <translation>Reanudar</translation>
     </message>
     <message>
@@ -854,23 +760,17 @@ Menu item in the tray menu: goes on with all tasks after a pause (verb).</extrac
     </message>
     <message>
         <source>Action</source>
-        <extracomment>Column head of the list of files: what was done with the file (noun).
-----------
-Column head of the history: what was done with the file (noun).</extracomment>
+        <extracomment>Column head: what was done with the file (noun).</extracomment>
         <translation>Acción</translation>
     </message>
     <message>
         <source>File name</source>
-        <extracomment>Column head of the list of files.
-----------
-Column head of the history.</extracomment>
+        <extracomment>Column head of a list of files.</extracomment>
         <translation>Nombre de archivo</translation>
     </message>
     <message>
         <source>Size</source>
-        <extracomment>Column head of the list of files: the size in bytes.
-----------
-Label beside a file&apos;s size.</extracomment>
+        <extracomment>Column head/Label: the size of a file.</extracomment>
         <translation>Tamaño</translation>
     </message>
     <message>
@@ -910,7 +810,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>New share</source>
         <extracomment>Heading of a notification: someone has shared something with the user (noun).</extracomment>
-        <translation>Compartido con usted</translation>
+        <translation>Nuevo elemento compartido</translation>
     </message>
     <message>
         <source>Download completed</source>
@@ -980,7 +880,7 @@ Label beside a file&apos;s size.</extracomment>
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Al hacer doble clic en el icono de la bandeja del sistema</translation>
+        <translation>Doble clic en el icono de la bandeja</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1006,7 +906,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Leave the applications open. You will have to restart the computer afterward.</source>
-        <extracomment>Choice of the installer, second of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, second of two: what happens to programs that have files open.</extracomment>
         <translation>Dejar las aplicaciones abiertas. Después tendrá que reiniciar el equipo.</translation>
     </message>
     <message>
@@ -1039,9 +939,7 @@ Label beside a file&apos;s size.</extracomment>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <extracomment>Menu item of the file manager: opens the list of older versions of the file.
-----------
-Menu item: opens the list of older versions of the file.</extracomment>
+        <extracomment>Menu item: opens the list of older versions of the file.</extracomment>
         <translation>Examinar las versiones anteriores</translation>
     </message>
     <message>
@@ -1059,7 +957,7 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>An error occurred, and [ProductName] was not installed. All changes made by Setup were undone. You can run Setup again at any time.</source>
-        <translation>Se ha producido un error y [ProductName] no se ha instalado. Se han deshecho todos los cambios del programa de instalación. Puede volver a ejecutarlo en cualquier momento.</translation>
+        <translation>Se ha producido un error y [ProductName] no se ha instalado. Se han deshecho todos los cambios del programa de instalación. Puede volver a iniciar la instalación en cualquier momento.</translation>
     </message>
     <message>
         <source>Ignore</source>
@@ -1108,19 +1006,17 @@ Menu item: opens the list of older versions of the file.</extracomment>
     </message>
     <message>
         <source>These applications have files open that [ProductName] Setup needs to replace:</source>
-        <extracomment>Label of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
+        <extracomment>Message of the installer, above a list of programs; [ProductName] becomes a product name.</extracomment>
         <translation>Estas aplicaciones tienen abiertos archivos que el programa de instalación de [ProductName] debe reemplazar:</translation>
     </message>
     <message>
         <source>Sync activity</source>
         <extracomment>Heading of a chart of what was transferred lately (noun).</extracomment>
-        <translation>Actividad</translation>
+        <translation>Actividad de sincronización</translation>
     </message>
     <message>
         <source>Repair</source>
-        <extracomment>Label of the installer, beside its button: puts damaged files right (verb).
-----------
-Button of the installer: puts damaged files right (verb).</extracomment>
+        <extracomment>Label/Button of the installer: puts damaged files right (verb).</extracomment>
         <translation>Reparar</translation>
     </message>
     <message>
@@ -1139,9 +1035,7 @@ Button of the installer: puts damaged files right (verb).</extracomment>
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>Button: answers a question of the installer.
-----------
-Button: answers a question.</extracomment>
+        <extracomment>Button: answers a question, in the installer too.</extracomment>
         <translation>Sí</translation>
     </message>
     <message>
@@ -1154,7 +1048,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Close the applications now and reopen them when Setup is done.</source>
-        <extracomment>Choice of the installer, first of two: what happens to programs that have files open.</extracomment>
+        <extracomment>Message of the installer, first of two: what happens to programs that have files open.</extracomment>
         <translation>Cerrar las aplicaciones ahora y volver a abrirlas al terminar la instalación.</translation>
     </message>
     <message>
@@ -1168,9 +1062,7 @@ Button: answers a question.</extracomment>
     </message>
     <message>
         <source>Change</source>
-        <extracomment>Label of the installer, beside its button: other features are to be installed (verb).
-----------
-Button beside a value: another one is chosen (verb).</extracomment>
+        <extracomment>Label/Button: takes another value, in the installer other features (verb).</extracomment>
         <translation>Cambiar</translation>
     </message>
     <message>
@@ -1252,7 +1144,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     <message>
         <source>Welcome to [ProductName] Setup</source>
         <extracomment>Heading of an installer page; [ProductName] becomes a product name.</extracomment>
-        <translation>Bienvenido a la instalación de [ProductName]</translation>
+        <translation>Le damos la bienvenida a la instalación de [ProductName]</translation>
     </message>
     <message>
         <source>[ProductName] is now installed</source>
@@ -1380,9 +1272,7 @@ Button beside a value: another one is chosen (verb).</extracomment>
     </message>
     <message>
         <source>Yesterday</source>
-        <extracomment>Choice of a list of periods, or the head of a group of events.
-----------
-Choice of a list of periods.</extracomment>
+        <extracomment>Choice/Heading: an entry of a list of periods, and the head of a group of events.</extracomment>
         <translation>Ayer</translation>
     </message>
     <message>
@@ -1425,7 +1315,7 @@ Choice of a list of periods.</extracomment>
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Hace %1 h</translation>
+        <translation>Hace %1&#xa0;h</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1443,15 +1333,13 @@ Choice of a list of periods.</extracomment>
     </message>
     <message>
         <source>Renamed</source>
-        <extracomment>Event in the history: what happened to the file (participle; the file was renamed).
-----------
-Event: what happened to the file named beside it (participle; the file was renamed).</extracomment>
+        <extracomment>Event: what happened to the file named beside it, in the history too (participle; the file was renamed).</extracomment>
         <translation>Renombrado</translation>
     </message>
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Hace %1 d</translation>
+        <translation>Hace %1&#xa0;d</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1461,13 +1349,11 @@ Event: what happened to the file named beside it (participle; the file was renam
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>Hace %1 min</translation>
+        <translation>Hace %1&#xa0;min</translation>
     </message>
     <message>
         <source>File</source>
-        <extracomment>Choice of a filter of the history: a type of item (noun, singular).
-----------
-Choice: a type of item in a filter or list (noun, singular).</extracomment>
+        <extracomment>Choice: a type of item in a filter or list (noun, singular).</extracomment>
         <translation>Archivo</translation>
     </message>
     <message>
@@ -1487,9 +1373,7 @@ Choice: a type of item in a filter or list (noun, singular).</extracomment>
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Label beside a list: the type of item.
-----------
-Column head of a list: the kind of file.</extracomment>
+        <extracomment>Label/Column head: the type of an item or a file.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
@@ -1604,10 +1488,8 @@ Column head of a list: the kind of file.</extracomment>
     </message>
     <message>
         <source>Advanced setup</source>
-        <extracomment>Menu item: opens the wizard that sets up the client step by step; not the same as &quot;Advanced settings&quot;.
-----------
-Choice of the wizard, second of two ways to set up the client (not the installer; noun).</extracomment>
-        <translation>Configuración avanzada</translation>
+        <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
+        <translation>Asistente de configuración avanzada</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1658,7 +1540,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     <message>
         <source>Find hubs on the local network</source>
         <extracomment>Button of the wizard.</extracomment>
-        <translation>Buscar hubs en la red local</translation>
+        <translation>Encontrar hubs en la red local</translation>
     </message>
     <message>
         <source>Status information</source>
@@ -1667,9 +1549,7 @@ Choice of the wizard, second of two ways to set up the client (not the installer
     </message>
     <message>
         <source>Username</source>
-        <extracomment>Label beside a field.
-----------
-Label beside the field for the proxy server&apos;s user.</extracomment>
+        <extracomment>Label beside a field.</extracomment>
         <translation>Nombre de usuario</translation>
     </message>
     <message>
@@ -1704,7 +1584,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>New sync task</source>
         <extracomment>Heading of a wizard page.</extracomment>
-        <translation>Nueva sincronización</translation>
+        <translation>Nueva tarea de sincronización</translation>
     </message>
     <message>
         <source>Choose the folders, the sync direction, and the filters yourself.</source>
@@ -1718,7 +1598,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>Los archivos de más de %1 MB no se sincronizarán.</translation>
+        <translation>Los archivos de más de %1&#xa0;MB no se sincronizarán.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1802,7 +1682,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Cuando un archivo se ha modificado en ambos lados:</translation>
+        <translation>Si un archivo ha cambiado en ambos lados:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1859,7 +1739,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     <message>
         <source>Two-way sync</source>
         <extracomment>Choice of the sync direction: changes are both uploaded and downloaded.</extracomment>
-        <translation>Bidireccional</translation>
+        <translation>Sincronización bidireccional</translation>
     </message>
     <message>
         <source>Choose which folder on the hub to sync with which folder on this computer.</source>
@@ -1920,9 +1800,7 @@ Label beside the field for the proxy server&apos;s user.</extracomment>
     </message>
     <message>
         <source>Sync</source>
-        <extracomment>Tab of the settings: syncing (noun).
-----------
-Choice of a filter of notifications: those about syncing (noun).</extracomment>
+        <extracomment>Tab/Choice: the page of what is synced, and a filter of notifications (noun).</extracomment>
         <translation>Sincronización</translation>
     </message>
     <message>
@@ -1933,7 +1811,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     <message>
         <source>Rename conflicting files and keep both versions</source>
         <extracomment>Choice, third of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Renombrar los archivos en conflicto y conservar ambas versiones</translation>
+        <translation>Renombrar archivos en conflicto y conservar ambas versiones</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -2035,9 +1913,7 @@ Choice of a filter of notifications: those about syncing (noun).</extracomment>
     </message>
     <message>
         <source>Hub</source>
-        <extracomment>Label in the wizard&apos;s summary: the hub&apos;s name.
-----------
-Label beside the field for the hub&apos;s address.</extracomment>
+        <extracomment>Label beside the hub&apos;s name or the field for its address.</extracomment>
         <translation>Hub</translation>
     </message>
     <message>
@@ -2254,13 +2130,11 @@ Label beside the field for the hub&apos;s address.</extracomment>
     <message>
         <source>Sync task &quot;%1&quot;</source>
         <extracomment>Screen reader: %1 is the task&apos;s name.</extracomment>
-        <translation>Sincronización “%1”</translation>
+        <translation>Tarea de sincronización “%1”</translation>
     </message>
     <message>
         <source>Folder on the hub</source>
-        <extracomment>Screen reader: names the side of a task on the hub.
-----------
-Label in the wizard&apos;s summary.</extracomment>
+        <extracomment>Screen reader/Label: the side of a task on the hub.</extracomment>
         <translation>Carpeta del hub</translation>
     </message>
     <message>
@@ -2332,11 +2206,7 @@ Label in the wizard&apos;s summary.</extracomment>
     </message>
     <message>
         <source>Notifications</source>
-        <extracomment>Heading of a page.
-----------
-Tab of the settings.
-----------
-Heading of the tray&apos;s list of notifications.</extracomment>
+        <extracomment>Heading/Tab: a page, and the tray&apos;s list of notifications.</extracomment>
         <translation>Notificaciones</translation>
     </message>
     <message>
@@ -2457,9 +2327,7 @@ Heading of the tray&apos;s list of notifications.</extracomment>
     </message>
     <message>
         <source>Version mismatch</source>
-        <extracomment>Status, short: the versions of client and hub don&apos;t fit together.
-----------
-Status, short, of a task: the versions of client and hub don&apos;t fit together.</extracomment>
+        <extracomment>Status, short, of a task too: the versions of client and hub don&apos;t fit together.</extracomment>
         <translation>Versiones no compatibles</translation>
     </message>
     <message>
@@ -2573,7 +2441,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Tessaly Server on the hub is too old for this client. Please ask your administrator to update it.</source>
-        <translation>La versión de Tessaly Server del hub es demasiado antigua para este cliente. Pida al administrador que la actualice.</translation>
+        <translation>La versión de Tessaly Server del hub es demasiado antigua para este cliente. Pida al administrador que realice la actualización.</translation>
     </message>
     <message>
         <source>Show the tutorial of Tessaly</source>
@@ -2641,7 +2509,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>No hay suficiente espacio en este disco. Tessaly necesita al menos %1 MB.</translation>
+        <translation>No hay suficiente espacio en este disco. Tessaly necesita al menos %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -2735,9 +2603,7 @@ Status, short, of a task: the versions of client and hub don&apos;t fit together
     </message>
     <message>
         <source>Download</source>
-        <extracomment>Menu item: fetches the file (verb).
-----------
-Button: fetches the file (verb).</extracomment>
+        <extracomment>Menu item/Button: fetches the file (verb).</extracomment>
         <translation>Descargar</translation>
     </message>
     <message>
@@ -2775,9 +2641,7 @@ Button: fetches the file (verb).</extracomment>
     </message>
     <message>
         <source>Share</source>
-        <extracomment>Button: opens the page on which an item is shared (verb).
-----------
-Menu item: opens the page on which an item is shared (verb).</extracomment>
+        <extracomment>Button/Menu item: opens the page on which an item is shared (verb).</extracomment>
         <translation>Compartir</translation>
     </message>
     <message>
@@ -2923,9 +2787,7 @@ Menu item: opens the page on which an item is shared (verb).</extracomment>
     </message>
     <message>
         <source>Keep files on the hub when they are deleted from this computer</source>
-        <extracomment>Check box of a task&apos;s settings.
-----------
-Check box of a task&apos;s filters.</extracomment>
+        <extracomment>Check box of a task&apos;s settings and filters.</extracomment>
         <translation>Conservar los archivos en el hub cuando se eliminen de este equipo</translation>
     </message>
     <message>
@@ -2978,7 +2840,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>My files and team folders</source>
         <extracomment>Choice of the wizard: which files a new task syncs (team: a group of people).</extracomment>
-        <translation>Mis archivos y carpetas de equipo</translation>
+        <translation>Mis archivos y carpetas de grupo</translation>
     </message>
     <message>
         <source>Files shared with me</source>
@@ -3005,7 +2867,7 @@ Check box of a task&apos;s filters.</extracomment>
     <message>
         <source>Team folder</source>
         <extracomment>Choice: a type of folder on the hub (team: a group of people).</extracomment>
-        <translation>Carpeta de equipo</translation>
+        <translation>Carpeta de grupo</translation>
     </message>
     <message>
         <source>Only download changes from Tessaly Server</source>
@@ -3086,9 +2948,7 @@ Check box of a task&apos;s filters.</extracomment>
     </message>
     <message>
         <source>Always keep on this computer</source>
-        <extracomment>Label below a picture of a tutorial page: a menu item of the file manager.
-----------
-Menu item of the file manager: the files are downloaded and stay.</extracomment>
+        <extracomment>Menu item/Label of the file manager: the files are downloaded and stay; also below a picture of it.</extracomment>
         <translation>Mantener siempre en este equipo</translation>
     </message>
     <message>
@@ -3109,7 +2969,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Sync task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Sincronización</translation>
+        <translation>Tarea de sincronización</translation>
     </message>
     <message>
         <source>Files are backed up as soon as they change.</source>
@@ -3129,12 +2989,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>La copia de seguridad ha finalizado. El equipo se apagará en %1 s.</translation>
+        <translation>La copia de seguridad ha finalizado. El equipo se apagará en %1&#xa0;s.</translation>
     </message>
     <message>
         <source>Backup task</source>
         <extracomment>Choice of the wizard: what kind of task to create (noun).</extracomment>
-        <translation>Copia de seguridad</translation>
+        <translation>Tarea de copia de seguridad</translation>
     </message>
     <message>
         <source>Run on the following days</source>
@@ -3222,7 +3082,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Files are backed up when you click Back up now.</source>
         <extracomment>Message of a choice; &quot;Back up now&quot; is the text of a button.</extracomment>
-        <translation>La copia de seguridad se hace cuando usted hace clic en Hacer copia ahora.</translation>
+        <translation>La copia de los archivos se hace al hacer clic en Hacer copia de seguridad ahora.</translation>
     </message>
     <message>
         <source>Allow downloads</source>
@@ -3237,7 +3097,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Backup schedule</source>
         <extracomment>Heading of a page: the days and times of the backup; not the same as &quot;Backup plan&quot;.</extracomment>
-        <translation>Programación de la copia</translation>
+        <translation>Programación de la copia de seguridad</translation>
     </message>
     <message>
         <source>Manager</source>
@@ -3278,7 +3138,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>%1 files (%2) backed up to &quot;%3&quot; on %4</source>
         <extracomment>Status of a task; %1 is a number, %2 a size with its unit, %3 the name of a folder or hub, %4 a date.</extracomment>
-        <translation>Archivos copiados en “%3” (%4): %1 (%2)</translation>
+        <translation>Archivos con copia de seguridad en “%3” (%4): %1 (%2)</translation>
     </message>
     <message>
         <source>History</source>
@@ -3288,7 +3148,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Start backing up</source>
         <extracomment>Button of the first page: sets up a backup task.</extracomment>
-        <translation>Empezar a hacer copias</translation>
+        <translation>Empezar a hacer copias de seguridad</translation>
     </message>
     <message>
         <source>Files and folders that match these rules will not be backed up.</source>
@@ -3435,7 +3295,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>The version of the package on the hub is not supported. Please ask your administrator to update it.</source>
-        <translation>La versión del paquete del hub no es compatible. Pida al administrador que lo actualice.</translation>
+        <translation>La versión del paquete del hub no es compatible. Pida al administrador que realice la actualización.</translation>
     </message>
     <message>
         <source>The backup has stopped because the hub has blocked the IP address of this computer.</source>
@@ -3515,7 +3375,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Back up temporary files</source>
         <extracomment>Check box of a backup task (verb: temporary files are backed up too).</extracomment>
-        <translation>Hacer copia de los archivos temporales</translation>
+        <translation>Hacer copia de seguridad de los archivos temporales</translation>
     </message>
     <message>
         <source>Files that others share with you will appear in a folder of their own on this computer.</source>
@@ -3538,17 +3398,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Mon</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Lun</translation>
     </message>
     <message>
         <source>Thu</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Jue</translation>
     </message>
     <message>
         <source>Sat</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Sáb</translation>
     </message>
     <message>
@@ -3584,7 +3444,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Fri</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Vie</translation>
     </message>
     <message>
@@ -3594,17 +3454,17 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Sun</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Dom</translation>
     </message>
     <message>
         <source>Tue</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mar</translation>
     </message>
     <message>
         <source>Wed</source>
-        <extracomment>Label: a day of the week, in a narrow row.</extracomment>
+        <extracomment>Day in a narrow row: a day of the week.</extracomment>
         <translation>Mié</translation>
     </message>
     <message>
@@ -3687,12 +3547,12 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     <message>
         <source>Next backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Próxima copia: %1</translation>
+        <translation>Próxima copia de seguridad: %1</translation>
     </message>
     <message>
         <source>Backup plan</source>
         <extracomment>Label of a task: on which days and at which times, as a whole; not the same as &quot;Backup schedule&quot;.</extracomment>
-        <translation>Plan de copias</translation>
+        <translation>Plan de copias de seguridad</translation>
     </message>
     <message>
         <source>Sharing link</source>
@@ -3759,9 +3619,7 @@ Menu item of the file manager: the files are downloaded and stay.</extracomment>
     </message>
     <message>
         <source>Up to date</source>
-        <extracomment>Status of a task (adjective; belongs to &quot;task&quot;).
-----------
-Status in the tray (adjective; belongs to &quot;client&quot; and its files).</extracomment>
+        <extracomment>Status of a task and of the client in the tray (adjective).</extracomment>
         <translation>Al día</translation>
     </message>
     <message>
@@ -3883,7 +3741,7 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     <message>
         <source>Try on-demand sync</source>
         <extracomment>Heading of an offer: a feature&apos;s name follows the verb (&quot;try&quot; as an invitation).</extracomment>
-        <translation>Pruebe a sincronizar bajo demanda</translation>
+        <translation>Pruebe la sincronización bajo demanda</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -3919,16 +3777,12 @@ Status in the tray (adjective; belongs to &quot;client&quot; and its files).</ex
     </message>
     <message>
         <source>Space freed up</source>
-        <extracomment>Event: what happened to the file: it stays on the hub alone (the space was freed up).
-----------
-Event in the history: the file stays on the hub alone (the space was freed up).</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it stays on the hub alone (the space was freed up).</extracomment>
         <translation>Espacio liberado</translation>
     </message>
     <message>
         <source>Made available on this computer</source>
-        <extracomment>Event: what happened to the file: it was downloaded and stays.
-----------
-Event in the history: the file was downloaded and stays.</extracomment>
+        <extracomment>Event: what happened to the file, in the history too: it was downloaded and stays.</extracomment>
         <translation>Ya disponible en este equipo</translation>
     </message>
     <message>
@@ -3943,11 +3797,11 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>No hay suficiente espacio en este disco. %1 necesita al menos %2 MB.</translation>
+        <translation>No hay suficiente espacio en este disco. %1 necesita al menos %2&#xa0;MB.</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
-        <translation>Sincronice su carpeta personal y las carpetas de equipo a las que tiene acceso.</translation>
+        <translation>Sincronice su carpeta personal y las carpetas de grupo a las que tiene acceso.</translation>
     </message>
     <message>
         <source>If you turn this off, the folder with the files that others share with you will be removed from this computer. Do you want to continue?</source>
@@ -3986,7 +3840,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>This client requires %1 %2 or later on the hub. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name, %2 a version number.</extracomment>
-        <translation>Este cliente requiere %1 %2 o posterior en el hub. Pida al administrador que actualice el paquete.</translation>
+        <translation>Este cliente requiere %1 %2 o posterior en el hub. Pida al administrador que realice la actualización.</translation>
     </message>
     <message>
         <source>You do not have permission to use the package on the hub. Please contact your administrator.</source>
@@ -4108,7 +3962,7 @@ Event in the history: the file was downloaded and stays.</extracomment>
     <message>
         <source>Choose what to back up</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Elija qué desea copiar</translation>
+        <translation>Elija de qué desea hacer copia de seguridad</translation>
     </message>
     <message>
         <source>The backup has stopped because your account has been disabled on the hub.</source>
@@ -4217,10 +4071,8 @@ Event in the history: the file was downloaded and stays.</extracomment>
     </message>
     <message>
         <source>Backup mode</source>
-        <extracomment>Heading of a wizard page: continuous, scheduled or manual (the way in which is backed up).
-----------
-Label beside a list: continuous, scheduled or manual (the way in which is backed up).</extracomment>
-        <translation>Modo de copia</translation>
+        <extracomment>Heading/Label: continuous, scheduled or manual (the way in which is backed up).</extracomment>
+        <translation>Modo de copia de seguridad</translation>
     </message>
     <message>
         <source>Do you want to start the backup now?</source>
@@ -4237,7 +4089,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Last backup: %1</source>
         <extracomment>Status of a task; %1 is a date and time.</extracomment>
-        <translation>Última copia: %1</translation>
+        <translation>Última copia de seguridad: %1</translation>
     </message>
     <message>
         <source>Every day</source>
@@ -4267,7 +4119,7 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     <message>
         <source>Set the backup plan</source>
         <extracomment>Heading of a wizard page (verb).</extracomment>
-        <translation>Definir el plan de copias</translation>
+        <translation>Definir el plan de copias de seguridad</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
@@ -4276,18 +4128,16 @@ Label beside a list: continuous, scheduled or manual (the way in which is backed
     </message>
     <message>
         <source>The backup plan could not be saved. Please try again.</source>
-        <translation>No se ha podido guardar el plan de copias. Inténtelo de nuevo.</translation>
+        <translation>No se ha podido guardar el plan de copias de seguridad. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Introduzca un tamaño entre 0 y %1 MB. Introduzca 0 para no definir ningún límite.</translation>
+        <translation>Introduzca un tamaño entre 0 y %1&#xa0;MB. Introduzca 0 para no definir ningún límite.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <extracomment>Tab of the settings: the connection to the hub.
-----------
-Heading of a page: the connection to the hub.</extracomment>
+        <extracomment>Tab/Heading: the connection to the hub.</extracomment>
         <translation>Conexión</translation>
     </message>
     <message>
@@ -4362,12 +4212,12 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Backup tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Copias de seguridad</translation>
+        <translation>Tareas de copia de seguridad</translation>
     </message>
     <message>
         <source>Sync tasks</source>
         <extracomment>Tab of the main window (plural).</extracomment>
-        <translation>Sincronizaciones</translation>
+        <translation>Tareas de sincronización</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -4382,7 +4232,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Back up now</source>
         <extracomment>Button: starts the backup at once (verb).</extracomment>
-        <translation>Hacer copia ahora</translation>
+        <translation>Hacer copia de seguridad ahora</translation>
     </message>
     <message>
         <source>Files</source>
@@ -4446,7 +4296,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Tessaly Server on the hub is too old for %1. Please ask your administrator to update it.</source>
         <extracomment>Message: %1 is a product name.</extracomment>
-        <translation>La versión de Tessaly Server del hub es demasiado antigua para %1. Pida al administrador que la actualice.</translation>
+        <translation>La versión de Tessaly Server del hub es demasiado antigua para %1. Pida al administrador que realice la actualización.</translation>
     </message>
     <message>
         <source>No connection to the hub</source>
@@ -4524,7 +4374,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Record more details in the logs to help technical support find the cause of a problem.</source>
         <extracomment>Message: &quot;logs&quot; are the records of what the client did; no relation to locks.</extracomment>
-        <translation>Registre más detalles para ayudar al soporte técnico a encontrar la causa de un problema.</translation>
+        <translation>Guarde más detalles en los registros para ayudar al soporte técnico a encontrar la causa de un problema.</translation>
     </message>
     <message>
         <source>Export logs</source>
@@ -4589,7 +4439,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>Introduzca un tamaño inferior a %1 MB.</translation>
+        <translation>Introduzca un tamaño inferior a %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>
@@ -4613,7 +4463,7 @@ Heading of a page: the connection to the hub.</extracomment>
     </message>
     <message>
         <source>:</source>
-        <extracomment>Fragment: stands between a label and its value, without blanks of its own: &quot;Hub: Office&quot;.</extracomment>
+        <extracomment>Fragment: the colon between a label and its value; a blank that the language sets before it belongs to it.</extracomment>
         <translation>:</translation>
     </message>
     <message>
@@ -4706,7 +4556,7 @@ Heading of a page: the connection to the hub.</extracomment>
     <message>
         <source>Files stay on the hub until you open them. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Learn more about on-demand sync&lt;/a&gt;</source>
         <extracomment>Tooltip: the link is to be kept as it is.</extracomment>
-        <translation>Los archivos permanecen en el hub hasta que los abre. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Más información sobre la sincronización bajo demanda&lt;/a&gt;</translation>
+        <translation>Los archivos permanecen en el hub hasta que los abra. &lt;a href=&quot;https://help.kelvane.example/on-demand-sync&quot;&gt;Más información sobre la sincronización bajo demanda&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Custom task name</source>

@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
-"""Plants one defect of each kind in a copy of the catalogs and expects scripts/check-catalogs to name it."""
+"""Plants one defect of each kind in a copy of the catalogs and expects scripts/check-catalogs to name it; takes each
+catalog through the formats that translators use. $LCONVERT is Qt's converter."""
 
+import os
 import shutil
 import subprocess
 import sys
@@ -10,159 +12,150 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-LONG_ENOUGH = 40
+sys.path.insert(0, str(PROJECT / "scripts"))
+from catalog_rules import Checker  # noqa: E402
 
+LINK = '<a href="https://help.kelvane.example/client">Learn more</a>'
+FIELD = "This is a required field."
+SIZE = "Please enter a size of less than %1 MB."
+NO_FOLDER = 'The folder "%1" does not exist.'
+SEARCHES = ("Find hubs on the local network", "Search the local network for hubs")
+OTHER_FOLDER = "This folder is already part of another backup task. Please choose another folder."
 
-def source(message):
-    return message.findtext("source")
-
-
-def edit(change, wanted=lambda text: True):
-    """Changes the first translation whose English is wanted."""
-    def plant(root):
-        message = next(message for message in root.iter("message") if wanted(source(message)))
-        translation = message.find("translation")
-        translation.text = change(translation.text)
-    return plant
-
-
-def on_first(action):
-    """Does something to the first message; action takes it and the context."""
-    def plant(root):
-        context = root.find("context")
-        action(context.find("message"), context)
-    return plant
-
-
-def copy_source(root):
-    message = next(message for message in root.iter("message") if len(source(message)) > LONG_ENOUGH)
-    message.find("translation").text = source(message)
-
-
-def add_unknown(_, context):
-    message = ElementTree.SubElement(context, "message")
-    ElementTree.SubElement(message, "source").text = "No row has this text"
-    ElementTree.SubElement(message, "translation").text = "Diesen Text hat keine Zeile"
-
-
-def sentence(text):
-    return text.endswith(".") and not text.endswith("...") and len(text) > LONG_ENOUGH
-
-
-def plain_sentence(text):
-    return sentence(text) and "%" not in text and "<" not in text and "[" not in text
-
-
-# The catalog, the kind of defect that is named, and how it gets there.
-CATALOG_DEFECTS = [
-    ("ger", "placeholders", edit(lambda text: text.replace("%1", "%4"),
-                                 lambda text: "%1" in text and "%4" not in text)),
-    ("jpn", "placeholders", edit(lambda text: text.replace("%3", "%2"), lambda text: "%3" in text)),
-    ("ger", "tags", edit(lambda text: text.replace('">', 'x">'), lambda text: "<a href" in text)),
-    ("ger", "tags", edit(lambda text: "</a>" + text.replace("</a>", ""), lambda text: "<a href" in text)),
-    ("ger", "product name", edit(lambda text: text.replace("[ProductName]", "Tessaly"),
-                                 lambda text: "[ProductName]" in text)),
-    ("ger", "blanks", edit(lambda text: text.replace(" ", "  ", 1), plain_sentence)),
-    ("fre", "blanks", edit(lambda text: "\u00a0" + text, plain_sentence)),
-    ("ger", "line break", edit(lambda text: text.replace(" ", "\n", 1), plain_sentence)),
-    ("ger", "line break", edit(lambda text: text.replace(" ", " \\n", 1), plain_sentence)),
-    ("ger", "dots", edit(lambda text: text.rstrip(". "), lambda text: text == "Loading...")),
-    ("ger", "dots", edit(lambda text: text + "..", plain_sentence)),
-    ("ger", "full stop", edit(lambda text: text[:-1], plain_sentence)),
-    ("cht", "full stop", edit(lambda text: text[:-1] + ".", plain_sentence)),
-    ("ger", "length", edit(lambda text: f"{text} {text} {text}", plain_sentence)),
-    ("ger", "length", edit(lambda text: "Zweiundzwanzig Zeichen", lambda text: text == "Finish")),
-    ("ger", "English", copy_source),
-    ("ger", "English", edit(lambda text: text[:-1] + " the.", plain_sentence)),
-    ("ger", "characters", edit(lambda text: text.replace("e", "е", 1), plain_sentence)),
-    ("dan", "characters", edit(lambda text: text.replace(" ", " ä ", 1), plain_sentence)),
-    ("tha", "characters", edit(lambda text: "file " + text, plain_sentence)),
-    ("cht", "characters", edit(lambda text: "这" + text, plain_sentence)),
-    ("enu", "source", edit(lambda text: text[:-1] + ", too.", plain_sentence)),
-    ("ger", "unfinished", on_first(lambda message, _: message.find("translation").set("type", "unfinished"))),
-    ("ger", "unfinished", edit(lambda text: "")),
-    ("ger", "comment", on_first(lambda message, _: setattr(message.find("extracomment"), "text", "Button."))),
-    ("ger", "comment", on_first(lambda message, _: ElementTree.SubElement(message, "translatorcomment"))),
-    ("ger", "messages", on_first(lambda message, context: context.remove(message))),
-    ("ger", "messages", on_first(lambda message, context: context.append(message))),
-    ("ger", "messages", on_first(add_unknown)),
-    ("ger", "context", on_first(lambda _, context: setattr(context.find("name"), "text", "other"))),
-    ("ger", "language", lambda root: root.set("language", "en_US")),
+# The catalog, the kind of defect that is named, the English text, and what becomes of a part of its translation; where
+# no part is given, of all of it.
+TEXT_DEFECTS = [
+    ("ger", "placeholders", "Progress: %1", "%1", "%4"),
+    ("jpn", "placeholders", "Items %1 to %2 of %3", "%3", "%2"),
+    ("ger", "tags", LINK, '">', 'x">'),
+    ("ger", "tags", LINK, None, '</a>Mehr<a href="https://help.kelvane.example/client">'),
+    ("ger", "product name", "Repair [ProductName]", "[ProductName]", "Tessaly"),
+    ("ger", "blanks", "Folder path", None, "Ordner  und Pfad"),
+    ("fre", "blanks", "Finish", None, "\u00a0Terminer"),
+    ("ger", "line break", "Folder path", None, "Ordner\nPfad"),
+    ("ger", "line break", "Folder path", None, "Ordner\\nPfad"),
+    ("ger", "dots", "Loading...", None, "Wird geladen"),
+    ("ger", "dots", "Finish", None, "Fertig..."),
+    ("ger", "full stop", FIELD, ".", ""),
+    ("cht", "full stop", FIELD, "。", "."),
+    ("ger", "length", "Finish", None, "Siebenunddreißig Zeichen sind zu viel"),
+    ("jpn", "length", "Finish", None, "漢字十九文字" * 3 + "漢"),
+    ("ger", "English", FIELD, None, FIELD),
+    ("ger", "English", FIELD, None, "Dieses Feld ist the richtige."),
+    ("ger", "characters", "Finish", None, "Fеrtig"),
+    ("dan", "characters", "Finish", None, "Färdig"),
+    ("tha", "characters", "Finish", None, "file"),
+    ("cht", "characters", "Finish", None, "这"),
+    ("ger", "unit", SIZE, "\u00a0", " "),
+    ("ger", "style", "%1 days ago", None, "Vor %1\u00a0Tag(en)"),
+    ("krn", "particle", NO_FOLDER, "이(가)", "이"),
+    ("hun", "article", NO_FOLDER, "A(z)", "A"),
+    ("ger", "term hub", "Hub overview", None, "Übersicht"),
+    ("ger", "term link (this computer to the hub)", "Linking...", None, "Verlinkung..."),
+    ("ger", "sentence", OTHER_FOLDER, "Bitte wählen", "Wählen"),
+    ("enu", "source", "Finish", None, "Done"),
+    ("ger", "unfinished", "Finish", None, ""),
 ]
 
-GLOSSARY_DEFECTS = {
-    "no file": lambda path: path.unlink(),
-    "header": lambda path: path.write_text(path.read_text("utf-8").replace("English", "Term", 1), "utf-8"),
-    "a term less": lambda path: path.write_text("".join(path.read_text("utf-8").splitlines(True)[:-1]), "utf-8"),
-    "a term more": lambda path: path.write_text(path.read_text("utf-8").rstrip("\n") + "\nterm\t\t\t\n", "utf-8"),
-    "a field less": lambda path: path.write_text(path.read_text("utf-8").replace("\t\n", "\n", 1), "utf-8"),
-}
+# What is done to the first message and its context.
+MESSAGE_DEFECTS = [
+    ("unfinished", lambda message, _: message.find("translation").set("type", "unfinished")),
+    ("comment", lambda message, _: setattr(message.find("extracomment"), "text", "Button.")),
+    ("comment", lambda message, _: ElementTree.SubElement(message, "translatorcomment")),
+    ("messages", lambda message, context: context.remove(message)),
+    ("messages", lambda message, context: context.append(message)),
+    ("messages", lambda message, _: setattr(message.find("source"), "text", "No row has this text")),
+    ("context", lambda _, context: setattr(context.find("name"), "text", "other")),
+]
+
+# A file, a part of it and what becomes of the part, and the kind of defect, or None where nothing can be checked then.
+FILE_DEFECTS = [
+    ("catalogs/ger.ts", 'language="de_DE"', 'language="en_US"', "language"),
+    ("catalogs/ger.ts", "</TS>", "", None),
+    ("catalogs/glossary/ger.tsv", "English\t", "Term\t", None),
+    ("catalogs/glossary/ger.tsv", "\nhub\t", "\nhubs\t", "glossary"),
+    ("catalogs/glossary/ger.tsv", "\nhub\tHub", "\nhub\t ", "glossary"),
+    ("catalogs/glossary/ger.tsv", "Laufwerk", "Datenträger", "two terms"),
+    ("catalogs/exceptions.tsv", "a no-break space stands before a colon", "", None),
+    ("catalogs/exceptions.tsv", "blanks\tfre", "blanks\tger", "exception"),
+    ("str-table-rows.cpp", "//: Event", "//: Thing", None),
+    ("str-table-rows.cpp", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", None),
+]
 
 
 class CheckCatalogsTest(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory(prefix="check-catalogs-")
         self.addCleanup(folder.cleanup)
-        self.resources = Path(folder.name)
-        self.catalogs = self.resources / "catalogs"
-        shutil.copytree(PROJECT / "resources/catalogs", self.catalogs)
-        for name in ("languages.tsv", "str-table-rows.cpp"):
-            shutil.copy(PROJECT / "resources" / name, self.resources)
+        self.resources = Path(folder.name) / "resources"
+        shutil.copytree(PROJECT / "resources", self.resources)
+        self.checker = Checker(self.resources)
 
     def check(self, *codes):
-        """The exit code, the rows of the table, and the lines of the defects."""
+        """The exit code, the rows of the table, and the kinds of the defects."""
         command = [sys.executable, PROJECT / "scripts/check-catalogs", "--resources", self.resources, *codes]
         run = subprocess.run(command, capture_output=True, encoding="utf-8", check=False)
         table, _, defects = run.stdout.partition("\n\n")
-        return run.returncode, table.splitlines()[1:], defects.splitlines()
+        kinds = [line.split(": ")[2] for line in defects.splitlines()]
+        self.assertEqual(run.returncode, 2 if run.stderr else 1 if kinds else 0, run.stderr)
+        return run.returncode, table.splitlines()[1:], kinds
 
-    def planted(self, code, before):
-        """What the check says of a catalog beyond what it said before, as a set of kinds."""
-        status, table, defects = self.check(code)
-        self.assertEqual(status, 1 if defects else 0)
-        self.assertEqual(table[0].split()[-1], str(len(defects)))
-        return {line.split(": ")[2] for line in defects if line not in before}
+    def kinds(self, code, change):
+        """What is wrong with a changed catalog, as a set of kinds."""
+        root = ElementTree.parse(self.resources / f"catalogs/{code}.ts").getroot()
+        change(root)
+        return {kind for _, kind, _ in self.checker.defects(code, root)}
 
     def test_a_row_for_each_catalog(self):
-        status, table, _ = self.check()
-        self.assertIn(status, (0, 1))
-        self.assertEqual([row.split()[0] for row in table],
-                         sorted(path.stem for path in self.catalogs.glob("*.ts")))
-        self.assertEqual(self.check("enu"), (0, [row for row in table if row.startswith("enu")], []))
+        (self.resources / "catalogs/xxx.ts").write_text("", "utf-8")
+        status, table, kinds = self.check()
+        self.assertEqual((status, kinds), (1, ["language"]))
+        self.assertEqual([row.split()[0] for row in table] + ["xxx"],
+                         sorted(path.stem for path in self.resources.glob("catalogs/*.ts")))
 
-    def test_defects_of_catalogs(self):
-        before = {code: self.check(code)[2] for code in sorted({code for code, _, _ in CATALOG_DEFECTS})}
-        for code, kind, plant in CATALOG_DEFECTS:
-            with self.subTest(code=code, kind=kind):
-                path = self.catalogs / f"{code}.ts"
-                good = path.read_bytes()
-                tree = ElementTree.parse(path)
-                plant(tree.getroot())
-                tree.write(path, encoding="utf-8")
-                found = self.planted(code, before[code])
-                path.write_bytes(good)
-                self.assertEqual(found, {kind})
+    def test_defects_of_texts(self):
+        for code, kind, english, part, instead in TEXT_DEFECTS:
+            def change(root, english=english, part=part, instead=instead):
+                message = next(message for message in root.iter("message") if message.findtext("source") == english)
+                translation = message.find("translation")
+                self.assertIn(part or "", translation.text)
+                translation.text = translation.text.replace(part, instead) if part else instead
+            with self.subTest(code=code, kind=kind, english=english):
+                self.assertEqual(self.kinds(code, change), {kind})
 
-    def test_defects_of_glossaries(self):
-        before = self.check("ger")[2]
-        path = self.catalogs / "glossary/ger.tsv"
-        good = path.read_bytes()
-        for name, plant in GLOSSARY_DEFECTS.items():
-            with self.subTest(name):
-                plant(path)
-                found = self.planted("ger", before)
-                path.write_bytes(good)
-                self.assertEqual(found, {"glossary"})
+    def test_defects_of_messages(self):
+        for kind, action in MESSAGE_DEFECTS:
+            with self.subTest(kind):
+                self.assertEqual(self.kinds("ger", lambda root, action=action: action(
+                    root.find("context/message"), root.find("context"))), {kind})
 
-    def test_what_cannot_be_read(self):
-        catalog = self.catalogs / "ger.ts"
-        catalog.write_bytes(catalog.read_bytes()[:1000])
-        self.assertEqual(self.check("ger")[0], 2)
-        catalog.unlink()
-        self.assertEqual(self.check("ger")[0], 2)
-        self.assertEqual(self.check("enu")[0], 0)
-        (self.resources / "str-table-rows.cpp").write_text("// no rows\n", "utf-8")
-        self.assertEqual(self.check("enu")[0], 2)
+    def test_two_labels_with_one_translation(self):
+        def change(root):
+            for message in root.iter("message"):
+                if message.findtext("source") in SEARCHES:
+                    message.find("translation").text = "Lokales Netzwerk nach Hubs durchsuchen"
+        self.assertEqual(self.kinds("ger", change), {"same"})
+
+    def test_defects_of_files(self):
+        for name, part, instead, kind in FILE_DEFECTS:
+            with self.subTest(name=name, part=part):
+                path = self.resources / name
+                good = path.read_text("utf-8")
+                self.assertIn(part, good)
+                path.write_text(good.replace(part, instead), "utf-8")
+                status, _, kinds = self.check(*([] if kind == "exception" else ["ger"]))
+                path.write_text(good, "utf-8")
+                self.assertEqual(status, 1 if kind else 2)
+                self.assertTrue(kind is None or kind in kinds, kinds)
+
+    def test_formats_of_translators_lose_nothing(self):
+        for catalog in sorted(self.resources.glob("catalogs/*.ts")):
+            with self.subTest(catalog.name):
+                good = catalog.read_text("utf-8")
+                for before, after in ((".ts", ".xlf"), (".xlf", ".po"), (".po", ".ts")):
+                    subprocess.run([os.environ["LCONVERT"], "-o", catalog.with_suffix(after),
+                                    catalog.with_suffix(before)], check=True)
+                self.assertEqual(catalog.read_text("utf-8"), good)
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
-// Renders the real dialog in every language on desktops of several colours and looks whether its text fits and can be
-// read.
+// Renders the real dialog on desktops of several colours, in every language and in one that needs more room than they
+// do, and looks whether its text fits and can be read.
 //
 //   dialog-sheet render FOLDER     a picture for each language, state and desktop at the scale of this screen; exit 1,
 //                                  with a line for each, where a text does not fit its place or is too faint
@@ -15,12 +15,14 @@
 #include <QPalette>
 #include <QProgressBar>
 #include <QRawFont>
+#include <QRegularExpression>
 #include <QTextLayout>
 #include <QTranslator>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <map>
+#include <memory>
 
 #include "launcher.h"
 #include "pier/dpi-info.h"
@@ -29,8 +31,41 @@
 
 namespace {
 
-constexpr const char* kLanguages[] = {"chs", "cht", "csy", "dan", "enu", "fre", "ger", "hun", "ita", "jpn", "krn",
-                                      "nld", "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "tha", "trk"};
+// Stands for a language that needs more room than any of ours: each vowel three times. The product's name is never
+// translated; with it in place the dialog's texts are two fifths longer than in English.
+class LongLanguage : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char* /*context*/, const char* source, const char* /*disambiguation*/,
+                      int /*n*/) const override {
+        QString text = QString::fromUtf8(source);
+        return text == QLatin1String("Kelvane Quay Client") ? text : text.replace(kVowel, QStringLiteral("\\1\\1\\1"));
+    }
+
+private:
+    const QRegularExpression kVowel{QStringLiteral("([aeiouy])")};
+};
+
+constexpr const char* kLongLanguage = "long";
+
+// The codes of all catalogs, and that of the language that stands for a longer one.
+QStringList Codes() {
+    QStringList codes = QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    for (QString& code : codes) {
+        code.chop(3);
+    }
+    return codes << QLatin1String(kLongLanguage);
+}
+
+// The translator of a code, null where there is no such catalog.
+std::unique_ptr<QTranslator> TranslatorOf(const QString& code) {
+    if (code == QLatin1String(kLongLanguage)) {
+        return std::make_unique<LongLanguage>();
+    }
+    auto catalog = std::make_unique<QTranslator>();
+    return catalog->load(QStringLiteral(":/%1.qm").arg(code)) ? std::move(catalog) : nullptr;
+}
 
 struct State {
     int row;
@@ -56,8 +91,8 @@ constexpr std::size_t kDark = 1;
 // What text needs to be read with weak eyes. Source: WCAG 2.1, 1.4.3.
 constexpr double kLeastContrast = 4.5;
 
-QString FileName(const QString& folder, const char* code, int value, const QString& kind) {
-    return QStringLiteral("%1/%2-%3-%4.png").arg(folder, QLatin1String(code)).arg(value).arg(kind);
+QString FileName(const QString& folder, const QString& code, int value, const QString& kind) {
+    return QStringLiteral("%1/%2-%3-%4.png").arg(folder, code).arg(value).arg(kind);
 }
 
 // What a file's name says of scale and desktop.
@@ -120,7 +155,7 @@ ProcessingProgressDialog* DialogOf(const Launcher& /*launcher*/) {
 
 // Whether every character of the label has a glyph of some installed font, and the text as laid out lies inside the
 // label; says what does not.
-bool Fits(const QProgressDialog& dialog, const char* code) {
+bool Fits(const QProgressDialog& dialog, const QString& code) {
     const auto* label = dialog.findChild<QLabel*>();
     QTextLayout layout(label->text(), label->font());
     layout.beginLayout();
@@ -128,7 +163,8 @@ bool Fits(const QProgressDialog& dialog, const char* code) {
     layout.endLayout();
     bool fits = true;
     const auto complain = [&](const char* what, double has, double needs) {
-        std::printf("%s: %s: '%s' needs %.0f, has %.0f\n", code, what, qPrintable(label->text()), needs, has);
+        std::printf("%s: %s: '%s' needs %.0f, has %.0f\n", qPrintable(code), what, qPrintable(label->text()), needs,
+                    has);
         fits = false;
     };
     const QRectF text = layout.boundingRect();
@@ -158,7 +194,7 @@ bool Fits(const QProgressDialog& dialog, const char* code) {
 }
 
 // Whether label, percentage and bar stand out from what is behind them; says what does not.
-bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const char* code, const char* desktop) {
+bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const QString& code, const char* desktop) {
     const auto* label = dialog.findChild<QLabel*>();
     const auto* bar = dialog.findChild<QProgressBar*>();
     const QFontMetrics metrics(bar->font());
@@ -177,8 +213,8 @@ bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const char
     bool readable = true;
     for (const auto& [part, contrast] : parts) {
         if (contrast < kLeastContrast) {
-            std::printf("%s: on a %s desktop the %s at %d%% has a contrast of %.1f, needs %.1f\n", code, desktop, part,
-                        bar->value(), contrast, kLeastContrast);
+            std::printf("%s: on a %s desktop the %s at %d%% has a contrast of %.1f, needs %.1f\n", qPrintable(code),
+                        desktop, part, bar->value(), contrast, kLeastContrast);
             readable = false;
         }
     }
@@ -187,7 +223,7 @@ bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const char
 
 // Renders the dialog in the language that is installed, on a desktop. 0, 1 for a fault, 2 where the folder can't be
 // written.
-int RenderOn(const Desktop& desktop, const char* code, const QString& folder, const QString& scale) {
+int RenderOn(const Desktop& desktop, const QString& code, const QString& folder, const QString& scale) {
     GoTo(desktop);
     Launcher launcher;
     ProcessingProgressDialog* dialog = DialogOf(launcher);
@@ -211,20 +247,20 @@ int RenderOn(const Desktop& desktop, const char* code, const QString& folder, co
 int Render(const QString& folder) {
     const QString scale = QString::number(DPIinfo::getInstance()->getDPI(), 'f', 2);
     int result = 0;
-    for (const char* code : kLanguages) {
-        QTranslator catalog;
-        if (!catalog.load(QStringLiteral(":/%1.qm").arg(QLatin1String(code)))) {
-            std::printf("%s: no catalog\n", code);
+    for (const QString& code : Codes()) {
+        const std::unique_ptr<QTranslator> catalog = TranslatorOf(code);
+        if (catalog == nullptr) {
+            std::printf("%s: not a catalog\n", qPrintable(code));
             return 2;
         }
-        QCoreApplication::installTranslator(&catalog);
-        const bool thai = QLatin1String(code) == QLatin1String("tha");
+        QCoreApplication::installTranslator(catalog.get());
+        const bool thai = code == QLatin1String("tha");
         QApplication::setFont(
             QFont(thai ? QStringLiteral("Microsoft Sans Serif") : QStringLiteral("Arial"), 12, -1, false));
         for (const Desktop& desktop : kDesktops) {
             result = qMax(result, RenderOn(desktop, code, folder, scale));
         }
-        QCoreApplication::removeTranslator(&catalog);
+        QCoreApplication::removeTranslator(catalog.get());
     }
     std::printf("scale %s: %s\n", qPrintable(scale), result == 0 ? "every text fits and can be read" : "see above");
     return result;
@@ -236,6 +272,7 @@ int Compose(const QString& folder, const QString& file) {
     constexpr int kGap = 8;
     constexpr int kNameWidth = 48;
     constexpr double kReduction = 0.55;
+    const QStringList codes = Codes();
     std::vector<std::pair<int, QString>> columns;
     for (const State& state : kStates) {
         columns.emplace_back(state.value, Kind(QLatin1String(kScales[0]), kDesktops[0]));
@@ -248,23 +285,23 @@ int Compose(const QString& folder, const QString& file) {
     int height = 0;
     std::vector<int> at;
     for (const auto& [value, kind] : columns) {
-        const QImage picture(FileName(folder, kLanguages[0], value, kind));
+        const QImage picture(FileName(folder, codes.first(), value, kind));
         at.push_back(width);
         width += static_cast<int>(picture.width() * kReduction) + kGap;
         height = qMax(height, static_cast<int>(picture.height() * kReduction) + kGap);
     }
-    QImage sheet(width, height * static_cast<int>(std::size(kLanguages)) + kGap, QImage::Format_RGB32);
+    QImage sheet(width, height * codes.size() + kGap, QImage::Format_RGB32);
     sheet.fill(QColor(200, 204, 210));
     QPainter painter(&sheet);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setFont(QFont(QStringLiteral("Arial"), 10));
     int y = kGap;
-    for (const char* code : kLanguages) {
-        painter.drawText(kGap, y + height / 2, QLatin1String(code));
+    for (const QString& code : codes) {
+        painter.drawText(kGap, y + height / 2, code);
         for (std::size_t column = 0; column < columns.size(); ++column) {
             const QImage picture(FileName(folder, code, columns[column].first, columns[column].second));
             if (picture.isNull()) {
-                std::fprintf(stderr, "no picture of %s at %s\n", code, qPrintable(columns[column].second));
+                std::fprintf(stderr, "no picture of %s at %s\n", qPrintable(code), qPrintable(columns[column].second));
                 return 2;
             }
             if (columns[column].second.endsWith(QLatin1String(kDesktops[kDark].name))) {

@@ -52,8 +52,9 @@ TEST_F(WorkTest, ProgressWrapsIn32Bits) {
 
 }  // namespace
 
-// Its own main: the dialog takes a QApplication.
+// Its own main: the dialog takes a QApplication, which is also there while the tests are listed.
 int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -1213,7 +1213,7 @@
     <message>
         <source>The task &quot;%1&quot; will stop, and its connection to the hub will be removed. The files on both sides will be kept.</source>
         <extracomment>Message: %1 is the task&apos;s name.</extracomment>
-        <translation>La tâche «&#xa0;%1&#xa0;» s&apos;arrêtera et sa connexion au hub sera retirée. Les fichiers seront conservés des deux côtés.</translation>
+        <translation>La tâche «&#xa0;%1&#xa0;» s&apos;arrêtera et sa connexion au hub sera supprimée. Les fichiers seront conservés des deux côtés.</translation>
     </message>
     <message>
         <source>Open containing folder</source>
@@ -1264,7 +1264,7 @@
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Fichiers synchronisés, partagés et protégés</translation>
+        <translation>Synchronisez, partagez et protégez vos fichiers</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
@@ -1682,7 +1682,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Lorsqu&apos;un fichier a changé des deux côtés&#xa0;:</translation>
+        <translation>Lorsqu&apos;un fichier a été modifié des deux côtés&#xa0;:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1734,7 +1734,7 @@
     <message>
         <source>Keep the version that was modified last</source>
         <extracomment>Choice, first of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Garder la version modifiée en dernier</translation>
+        <translation>Conserver la version modifiée en dernier</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -1806,12 +1806,12 @@
     <message>
         <source>Always keep the version on the hub</source>
         <extracomment>Choice, second of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Toujours garder la version du hub</translation>
+        <translation>Toujours conserver la version du hub</translation>
     </message>
     <message>
         <source>Rename conflicting files and keep both versions</source>
         <extracomment>Choice, third of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Renommer les fichiers en conflit et garder les deux versions</translation>
+        <translation>Renommer les fichiers en conflit et conserver les deux versions</translation>
     </message>
     <message>
         <source>Summary</source>

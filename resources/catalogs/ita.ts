@@ -880,7 +880,7 @@
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Doppio clic sull&apos;icona nell&apos;area di notifica</translation>
+        <translation>Quando si fa doppio clic sull&apos;icona nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1682,7 +1682,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Se un file è cambiato su entrambi i lati:</translation>
+        <translation>Quando un file è stato modificato su entrambi i lati:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>

@@ -1264,7 +1264,7 @@
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Sincronize, compartilhe e proteja arquivos</translation>
+        <translation>Sincronize, compartilhe e proteja seus arquivos</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
@@ -1682,7 +1682,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Quando um arquivo mudar nos dois lados:</translation>
+        <translation>Quando um arquivo for alterado nos dois lados:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>

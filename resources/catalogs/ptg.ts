@@ -880,7 +880,7 @@
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Duplo clique no ícone da área de notificação</translation>
+        <translation>Ao fazer duplo clique no ícone da área de notificação</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1264,7 +1264,7 @@
     <message>
         <source>Sync, share, and protect your files</source>
         <extracomment>Label below the product&apos;s name: a slogan, three verbs.</extracomment>
-        <translation>Sincronize, partilhe e proteja ficheiros</translation>
+        <translation>Sincronize, partilhe e proteja os seus ficheiros</translation>
     </message>
     <message>
         <source>File sharing through Ferrylink is disabled on the hub. Please contact your administrator.</source>
@@ -1682,7 +1682,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Quando um ficheiro mudar em ambos os lados:</translation>
+        <translation>Quando um ficheiro for alterado em ambos os lados:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>

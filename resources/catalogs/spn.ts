@@ -880,7 +880,7 @@
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>Label beside a list of actions: what a double click on the tray icon does.</extracomment>
-        <translation>Doble clic en el icono de la bandeja</translation>
+        <translation>Al hacer doble clic en el icono de la bandeja del sistema</translation>
     </message>
     <message>
         <source>The hub is indexing this folder. Please wait.</source>
@@ -1682,7 +1682,7 @@
     <message>
         <source>When a file was changed on both sides:</source>
         <extracomment>Label above three choices, ends in a colon.</extracomment>
-        <translation>Si un archivo ha cambiado en ambos lados:</translation>
+        <translation>Cuando un archivo se ha modificado en ambos lados:</translation>
     </message>
     <message>
         <source>Welcome to the setup wizard</source>
@@ -1811,7 +1811,7 @@
     <message>
         <source>Rename conflicting files and keep both versions</source>
         <extracomment>Choice, third of three: what happens when a file was changed on both sides.</extracomment>
-        <translation>Renombrar archivos en conflicto y conservar ambas versiones</translation>
+        <translation>Renombrar los archivos en conflicto y conservar ambas versiones</translation>
     </message>
     <message>
         <source>Summary</source>

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <optional>
+#include <initializer_list>
 
 #include "extractor.h"
 #include "file/file-op.h"
@@ -24,10 +24,14 @@ std::string GetAppBackupDir(const std::string& path, int index) {
     return name;
 }
 
-// Sets a version field if the file has its key; one that it lacks leaves the field as it was.
-void Take(const std::optional<std::string>& value, std::string& field) {
-    if (value) {
-        field = *value;
+// Reads the INFO file at `path` into the fields for the major, minor, build and icon overlay version. A key that the
+// file lacks leaves its field as it was.
+void LoadVersions(const std::string& path, std::initializer_list<std::string*> fields) {
+    const VersionInfo info = ReadVersionInfo(path);
+    auto field = fields.begin();
+    for (const VersionKey& key : kVersionKeys) {
+        **field = (info.*key.field).value_or(**field);
+        ++field;
     }
 }
 
@@ -38,7 +42,7 @@ int BackUp(const std::string& appDir, std::string& backupPath, int& attempt) {
         if (FSRename(appDir, backupPath, false) == 0) {
             return 0;
         }
-        // At once, without a pause: what stands in the way is a leftover under that name, not a moment.
+        // The next name at once, without a pause: it is a leftover that stands in the way, and it will not go away.
         KQ_LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", appDir.c_str(), backupPath.c_str());
     }
     KQ_LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", appDir.c_str(),
@@ -79,23 +83,15 @@ void Service::LoadSourceVersion() {
         KQ_LOG_INFO(kComponent, "source does not exist\n");
         return;
     }
-    const VersionInfo info = ReadVersionInfo(path);
-    Take(info.majorVersion, sourceMajorVersion);
-    Take(info.minorVersion, sourceMinorVersion);
-    Take(info.buildVersion, sourceBuildVersion);
-    Take(info.iconOverlayVersion, sourceIconOverlayVersion);
+    LoadVersions(path, {&sourceMajorVersion, &sourceMinorVersion, &sourceBuildVersion, &sourceIconOverlayVersion});
     KQ_LOG_INFO(kComponent, "source_version = (%s, %s, %s, %s)\n", sourceMajorVersion.c_str(),
                 sourceMinorVersion.c_str(), sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
 }
 
 void Service::LoadTargetVersion() {
-    // Deliberately without a test for the file: a bundle without INFO has four empty versions, and its line says so.
+    // Deliberately no look whether the file is there: for a bundle without INFO the line shows four empty versions.
     const std::string path = (TablePath(kRootResourcePath) + InResources(kInfoFile)).toStdString();
-    const VersionInfo info = ReadVersionInfo(path);
-    Take(info.majorVersion, targetMajorVersion);
-    Take(info.minorVersion, targetMinorVersion);
-    Take(info.buildVersion, targetBuildVersion);
-    Take(info.iconOverlayVersion, targetIconOverlayVersion);
+    LoadVersions(path, {&targetMajorVersion, &targetMinorVersion, &targetBuildVersion, &targetIconOverlayVersion});
     KQ_LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetMajorVersion.c_str(),
                 targetMinorVersion.c_str(), targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
 }
@@ -112,7 +108,7 @@ int Service::PrepareUserEnv() {
         return -1;
     }
     KQ_LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
-    // From index 0 on, not the one in use alone: the leftovers that pushed the index up go in the same sweep.
+    // Not only the one that was made: leftovers of earlier runs took the names before it, and they go as well.
     for (int index = 0; index <= attempt; ++index) {
         FSRemove(GetAppBackupDir(appDir, index), false);
     }
@@ -145,7 +141,7 @@ void Service::MigrateService() {
     if (IsFileExist(oldData, true) && FSRename(oldData, newData, true) < 0) {
         KQ_LOG_ERROR(kComponent, "Failed to move data to Kelvane Quay folder\n");
     }
-    // Deliberately whatever became of the move: the older product goes, and the settled order has no test here.
+    // Deliberately without a look at how the move went: the older product goes in any case.
     if (IsFileExist(oldRoot.toStdString(), true) && FSRemove(oldRoot.toStdString(), false) < 0) {
         KQ_LOG_ERROR(kComponent, "Failed to remove old .Tessaly folder\n");
     }

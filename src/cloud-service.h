@@ -76,9 +76,8 @@ protected:
     std::string sourceIconOverlayVersion;
 };
 
-// Paths that the client family's programs share, below the application folder but for the log's. Nothing in the
-// launcher uses them: its own files lie in the bundle's Resources folder (path-table.cpp), and neither side is to be
-// changed to match the other.
+// Paths that the client family's programs share; all but the log's lie below the application folder. The launcher does
+// not use them: its own files lie where product-layout.h says, and the two need not agree.
 class PackageInfo {
 public:
     // Needs a QCoreApplication, for its folder.

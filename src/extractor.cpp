@@ -14,11 +14,11 @@ namespace {
 constexpr char kComponent[] = "extractor_debug";
 constexpr std::size_t kBlockSize = 10240;
 
-// Nothing else: neither owners nor times nor exact modes, and links are followed where the package put them.
+// Neither owners, times nor exact modes are restored, and links that the package made are followed.
 constexpr int kDiskOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 static_assert(kDiskOptions == 0x2210, "the three flags, as libarchive numbers them");
 
-// libarchive's last message for a handle. It is null where the failing call said nothing.
+// libarchive's last message for a handle, which has none where the failing call said nothing.
 const char* ErrorText(archive* handle) {
     const char* text = archive_error_string(handle);
     return text == nullptr ? "(null)" : text;
@@ -53,11 +53,11 @@ int ExtractEntry(archive* reader, archive* writer, archive_entry* entry, const s
         KQ_LOG_ERROR(kComponent, "archive_entry_pathname failed");
         return -1;
     }
-    // Joined as it stands: an absolute pathname thereby lands below the folder, and ".." is the writer's to refuse.
+    // As it stands: so an absolute pathname lands below the folder, and the writer refuses a "..".
     const std::string target = destPath + "/" + pathname;
     archive_entry_set_pathname(entry, target.c_str());
 
-    // A mere warning fails as well: a client that is almost complete is not.
+    // A warning is a failure too: it means that the entry is not what the package holds.
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
         KQ_LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer));
         return -1;
@@ -136,7 +136,7 @@ int Extractor::Count() {
     }
     int count = 0;
     archive_entry* entry = nullptr;
-    // The end and a damage alike end the count: Extract comes upon the damage by itself and says what it is.
+    // Damage ends the count as the end does: Extract will find it and say what it is.
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         ++count;
         archive_read_data_skip(reader.get());

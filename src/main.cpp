@@ -24,8 +24,8 @@ constexpr char kComponent[] = "launcher_debug";
 // Generations of the log file that are kept.
 constexpr int kLogRotateCount = 50;
 
-// Logs some paths. Their texts are handed to "%s" as wide ones, deliberately: the lines have always shown the first
-// character alone, or nothing for a key that is not set, and say no more than that about a user's folders.
+// Logs some paths. "%s" gets them as wide texts, deliberately: a line shows a path's first character, or nothing for a
+// key that is not set, and tells no more about a user's folders.
 void LogPaths() {
     for (const PathKey key : {kUserTessalyPath, kUserTessalyAppPath, kUserTessalyResourcePath, kUserTessalyDataPath,
                               kUserTessalyWorkingDirPath, kUserTessalyQuayUiPath, kRootResourcePath}) {
@@ -50,8 +50,7 @@ void StartLog() {
 QString InstallTranslation() {
     auto translator = std::make_unique<QTranslator>();
     QString language = KelvaneLocale::getInstance()->getDefaultLanguage();
-    // An empty translator says as much as the result would. The two delimiters are empty: nothing of the name is
-    // optional.
+    // Whether it is empty tells as much as the result. Without delimiters no shorter name is tried.
     static_cast<void>(translator->load(QStringLiteral(":/") + language + ".qm", QString::fromLatin1(""),
                                        QString::fromLatin1(""), QString::fromLatin1("")));
     if (!translator->isEmpty()) {

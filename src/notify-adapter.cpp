@@ -11,7 +11,7 @@ void Notify_Adapter::UpdateProgress(int total, int current) {
     Q_EMIT sigUpdateProgress(total, current);
 }
 
-// By value: that is how the text waits in the listener's queue.
+// By value, as the text waits in the listener's queue.
 void Notify_Adapter::UpdateDialogText(QString text) {
     Q_EMIT sigUpdateDialogText(std::move(text));
 }

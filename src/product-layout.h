@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 // ---- In a bundle and in a client's folder, which are laid alike; below that folder ----------------------------------
 
@@ -29,15 +30,9 @@ constexpr const char* InResources(const char* file) {
     return file + sizeof(kResourcesFolder) - 1;
 }
 
-// The last name of a path: of a program's file what the program is called.
+// What follows the last "/" of a path. The result points into it.
 constexpr const char* LastName(const char* path) {
-    const char* name = path;
-    for (const char* at = path; *at != '\0'; ++at) {
-        if (*at == '/') {
-            name = at + 1;
-        }
-    }
-    return name;
+    return path + (std::string_view(path).rfind('/') + 1);
 }
 
 // ---- In a home ------------------------------------------------------------------------------------------------------

@@ -19,7 +19,7 @@ namespace {
 
 constexpr char kComponent[] = "service_debug";
 
-// How long a client may take to quit: so many probes, a second apart. Service's own time limit plays no part in it.
+// How long a client may take to quit. Service's own time limit plays no part in it.
 constexpr int kStopProbes = 15;
 constexpr unsigned kStopProbeSeconds = 1;
 
@@ -87,8 +87,8 @@ int MacService::HandlePackageUpgrade() {
         KQ_LOG_DEBUG(kComponent, "local appdata exist\n");
         StopService();
     } else {
-        // A first install, perhaps from the older product. The exact spelling is asked for: a folder that is reached
-        // through a link, or that only looks alike on a volume that ignores case, is not taken over.
+        // A first install, perhaps from the older product. Its folder is taken over only in the exact spelling: not
+        // where it is reached through a link, or named alike on a volume that ignores case.
         const QString older = QDir::toNativeSeparators(TablePath(kUserTessalyPath));
         if (IsFileExist(older.toStdString(), true)) {
             StopServiceByPath(older);
@@ -130,11 +130,11 @@ void MacService::StopServiceByPath(const QString& folder) {
         return;
     }
     Config pidFile;
-    // Without a value there is no process to name: as good as unreadable.
+    // An empty value names no process.
     if (pidFile.read(file) < 0 || pidFile["pid"].empty()) {
         KQ_LOG_NOTE(kComponent, "Failed to read pid file '%s', not exist ?\n", file.c_str());
         return;
     }
-    // Deliberately no look at the number, and none at whose it is: the client's file is trusted as it stands.
+    // Whatever number it is, and whosever process, deliberately: the client's file is trusted.
     StopProcess(static_cast<pid_t>(std::atol(pidFile["pid"].c_str())));
 }

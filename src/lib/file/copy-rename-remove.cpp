@@ -17,8 +17,7 @@ namespace {
 constexpr mode_t kCopyMode = 0644;
 constexpr std::size_t kCopyBlock = 8192;
 
-// The next name in a stream other than "." and "..", or null at its end; a read error looks like the end. Valid until
-// the next read.
+// The next name in a stream other than "." and "..", valid until the next read. Null at its end or on a read error.
 const char* NextName(const DirStream& stream) {
     while (const dirent* entry = readdir(stream.get())) {
         if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0) {
@@ -37,12 +36,11 @@ Fd OpenForCopy(const std::string& path, int flags, mode_t mode) {
     return file;
 }
 
-// Writes all of the block. 0, -2 for want of space, or -1.
+// Writes all of the block. 0, -2 if the disk or the quota is full, or -1.
 int WriteBlock(const Fd& file, const char* block, std::size_t size) {
     while (size > 0) {
         const ssize_t written = write(file.get(), block, size);
         if (written <= 0) {
-            // Taken before the message, which may disturb errno.
             const int error = errno;
             KQ_LOG_ERROR(kLogComponent, "CopyFile: write: %s (%d)\n", std::strerror(error), error);
             return error == ENOSPC || error == EDQUOT ? -2 : -1;
@@ -53,8 +51,7 @@ int WriteBlock(const Fd& file, const char* block, std::size_t size) {
     return 0;
 }
 
-// Copies from where `source` stands to its end. 0, -2 for want of space, or -1. An interrupted call is a failure: there
-// is no retry.
+// Copies from where `source` stands to its end, with the results of WriteBlock. An interrupted call is a failure.
 int CopyContent(const Fd& source, const Fd& destination) {
     char block[kCopyBlock];
     for (;;) {
@@ -73,7 +70,7 @@ int CopyContent(const Fd& source, const Fd& destination) {
     }
 }
 
-// The part of FSRename for a folder on another volume: its children one by one, then the folder itself.
+// Moves a folder to another volume: what it holds one by one, then the folder itself. The results are FSRename's.
 int MoveFolder(const std::string& oldPath, const std::string& newPath, bool exactPath) {
     if (FSMKDir(newPath, true) != 0) {
         return -3;
@@ -83,7 +80,6 @@ int MoveFolder(const std::string& oldPath, const std::string& newPath, bool exac
         return -3;
     }
     while (const char* name = NextName(stream)) {
-        // What was moved so far stays moved.
         if (FSRename(oldPath + "/" + name, newPath + "/" + name, exactPath) != 0) {
             return -3;
         }
@@ -94,7 +90,7 @@ int MoveFolder(const std::string& oldPath, const std::string& newPath, bool exac
 
 int RemoveFolder(const std::string& path, const std::string& spelled);
 
-// The part of FSRemove behind the look at the object.
+// Removes an object that GetFileInfo has described. The results are FSRemove's.
 int RemoveKnown(const std::string& path, const _FILE_INFO_tag& info) {
     if (!info.exist) {
         return 0;
@@ -105,11 +101,11 @@ int RemoveKnown(const std::string& path, const _FILE_INFO_tag& info) {
     return std::remove(path.c_str()) == 0 ? 0 : -3;
 }
 
-// The part of FSRemove for a folder, which the file system spells as `spelled`.
+// Removes a folder, which the file system spells as `spelled`. The results are FSRemove's.
 int RemoveFolder(const std::string& path, const std::string& spelled) {
     DirStream stream(opendir(path.c_str()));
     if (!stream) {
-        // Deliberate: callers see a success for a folder that can't be listed, and go on.
+        // A success, deliberately: callers go on where a folder can't be listed.
         return 0;
     }
     const std::string prefix = spelled == "/" ? spelled : spelled + "/";
@@ -138,8 +134,7 @@ int FSCopy(const std::string& src, const std::string& dst, bool removeSource, bo
             KQ_LOG_ERROR(kLogComponent, "FSStat: check state (%s) failed\n", src.c_str());
             return -1;
         }
-        // Deliberate: a source that stands under another spelling counts as absent here, its mode is 0, and so is that
-        // of the copy.
+        // A source under another spelling counts as absent here, deliberately: its mode is 0, and so is the copy's.
         mode = static_cast<std::uint16_t>(info.mode);
     }
     Fd destination = OpenForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC, mode);
@@ -147,7 +142,6 @@ int FSCopy(const std::string& src, const std::string& dst, bool removeSource, bo
         return -1;
     }
     if (const int result = CopyContent(source, destination); result != 0) {
-        // A partial destination stays: clean-up is the caller's decision.
         return result;
     }
     if (removeSource) {
@@ -179,8 +173,8 @@ int FSRename(const std::string& oldPath, const std::string& newPath, bool exactP
     }
     switch (info.type) {
         case FILE_TYPE_REGULAR:
-            // Deliberate: over a volume border a file loses its mode and its time, also in the middle of a folder. A
-            // full disk, -2 of the copy, is a failed move like any other.
+            // Without the mode, deliberately: a file that moves to another volume loses it, and its time. A full disk
+            // is a failed move like any other.
             return FSCopy(oldPath, newPath, true, false) < 0 ? -3 : 0;
         case FILE_TYPE_DIRECTORY: return MoveFolder(oldPath, newPath, exactPath);
         default: return -3;

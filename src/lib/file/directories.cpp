@@ -19,7 +19,7 @@ bool IsFolder(const std::string& path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// Sets the umask of the process to 0 while it lives, if told to.
+// If active, keeps the umask of the process at 0 for as long as it lives.
 class NoUmask {
 public:
     explicit NoUmask(bool active) : active_(active), old_(active ? umask(0) : mode_t{0}) {}
@@ -36,7 +36,7 @@ private:
     const mode_t old_;
 };
 
-// mkdir, for which a folder that somebody else has made in between is a success. 0, or the errno.
+// Makes a folder, or finds that another process has made it meanwhile. 0, or the errno.
 int MakeLevel(const std::string& path, mode_t mode) {
     if (mkdir(path.c_str(), mode) == 0) {
         return 0;
@@ -45,8 +45,7 @@ int MakeLevel(const std::string& path, mode_t mode) {
     return error == EEXIST && IsFolder(path) ? 0 : error;
 }
 
-// Sees to it that a folder, or a link to one, stands at `path`, one level of a walk. 0, or the errno that ends the
-// walk.
+// Makes one level of a walk unless a folder, or a link to one, is there. 0, or the errno that ends the walk.
 int WalkLevel(const std::string& path, bool isLast, bool replaceFile, mode_t mode) {
     struct stat status = {};
     if (stat(path.c_str(), &status) == 0) {
@@ -54,15 +53,15 @@ int WalkLevel(const std::string& path, bool isLast, bool replaceFile, mode_t mod
             return 0;
         }
         if (replaceFile) {
-            // Its failure is that of the mkdir that follows.
+            // Where this fails, so does the mkdir that follows.
             static_cast<void>(std::remove(path.c_str()));
         } else if (isLast) {
             KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
                         path.c_str());
             return EEXIST;
         } else {
-            // Deliberate: the text speaks of a link though a plain file stands there, and the walk goes on: the next
-            // level's mkdir is what fails.
+            // It is no folder, and the text is wrong about it, deliberately: the log's readers know the line so. The
+            // walk fails at the next level.
             KQ_LOG_INFO(kLogComponent, "FSMKDirP: path: %s is symbolic link pointed to folder\n", path.c_str());
             return 0;
         }
@@ -70,7 +69,7 @@ int WalkLevel(const std::string& path, bool isLast, bool replaceFile, mode_t mod
     return MakeLevel(path, mode);
 }
 
-// The FileType of a d_type. The numbers are those of every system that has the field, named or not.
+// The FileType of a d_type. All systems that have the field use these numbers, though not all name them.
 FileType TypeOfEntry(unsigned char type) {
     switch (type) {
         case 1: return FILE_TYPE_FIFO;
@@ -129,7 +128,7 @@ int FSMKDir(const std::string& path, bool recursive) {
         if (info.type == FILE_TYPE_DIRECTORY) {
             return 0;
         }
-        // Deliberate: a link to a folder is refused as well, since the record tells of the link.
+        // A link to a folder is refused as well, deliberately.
         KQ_LOG_ERROR(kLogComponent, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
                      path.c_str(), info.type);
         return -1;
@@ -199,7 +198,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if (read == nullptr) {
         return 0;
     }
-    // An entry that has vanished, or whose folder was opened under another spelling, keeps the record's zeros.
+    // Stays 0 for an entry that has vanished meanwhile, or whose folder was opened under another spelling.
     _FILE_INFO_tag info;
     if ((handle.flags & 1) != 0) {
         const std::string path = handle.path + "/" + read->d_name;

@@ -30,7 +30,7 @@ FileType TypeOfMode(mode_t mode) {
     }
 }
 
-// The widths are those of the record: what does not fit is cut.
+// What does not fit the record's widths is cut.
 void TakeStatus(const struct stat& status, _FILE_INFO_tag& info) {
     info.mtime = static_cast<std::int32_t>(status.st_mtime);
     info.size = static_cast<std::int64_t>(status.st_size);
@@ -40,7 +40,7 @@ void TakeStatus(const struct stat& status, _FILE_INFO_tag& info) {
     info.dev = static_cast<std::int64_t>(static_cast<std::int32_t>(status.st_dev));
 }
 
-// GetFileInfo, with a way to find the spelling of a path: find(path, spelled) returns as platform::SpelledPath does.
+// GetFileInfo, where find(path, spelled) finds the spelling and returns as platform::SpelledPath does.
 template <typename Find>
 int FillInfo(const std::string& path, _FILE_INFO_tag& info, Find find) {
     struct stat status = {};
@@ -49,7 +49,7 @@ int FillInfo(const std::string& path, _FILE_INFO_tag& info, Find find) {
         return -1;
     }
     info.exist = found;
-    // The path may be one of the record's own strings: only info.path is read from here on.
+    // `path` may be one of the record's own strings, and is not read from here on.
     info.path = path;
     info.name = FSBaseName(info.path);
     TakeStatus(status, info);
@@ -103,8 +103,8 @@ bool IsFileExist(const std::string& path, bool exactPath) {
     if (GetFileInfo(path, info) < 0 || !info.exist) {
         return false;
     }
-    // Deliberate: the whole path counts, not its last name alone. Callers that ask for the exact spelling take what is
-    // reached through a link or in another case for absent, and two paths that are not UTF-8 for the same.
+    // The whole path counts, deliberately, not only its last name: what is reached through a link counts as absent. Two
+    // paths that are not UTF-8 count as the same.
     return !exactPath ||
            StringHelper::Normalize(info.path, StringHelper::NFC) == StringHelper::Normalize(path, StringHelper::NFC);
 }
@@ -114,7 +114,7 @@ int FSStat(const std::string& path, _FILE_INFO_tag& info, bool exactPath) {
         return -1;
     }
     if (!IsFileExist(path, exactPath)) {
-        // The rest keeps what the caller had in it; FSCopy and FSReadDir count on zeros of a fresh record.
+        // Nothing else is set: FSCopy and FSReadDir count on the zeros of a fresh record.
         info.exist = false;
         return 0;
     }
@@ -151,7 +151,7 @@ bool hasFilePermission(const std::string& path, int accessMode) {
 }
 
 bool operator==(const _FILE_INFO_tag& left, const _FILE_INFO_tag& right) {
-    // Deliberate: records of files that differ in owner, mode or device alone are equal.
+    // Without owner, mode and device, deliberately.
     return std::tie(left.exist, left.size, left.mtime, left.type, left.path, left.name) ==
            std::tie(right.exist, right.size, right.mtime, right.type, right.path, right.name);
 }

@@ -123,8 +123,8 @@ int FSFsync(const std::string& path);
 
 // Creates a folder with mode 0777 less the umask, with `recursive` all missing levels above it as well.
 //    0  it exists now
-//   -1  empty path, GetFileInfo failed, or something other than a folder stands there; a symbolic link to one counts as
-//   such -2  creation failed; levels made before stay. errno tells why.
+//   -1  empty path, GetFileInfo failed, or there is something else than a folder, such as a link to one
+//   -2  creation failed, and errno tells why; levels made before stay
 int FSMKDir(const std::string& path, bool recursive);
 
 // Creates the levels of `target` below `root`, which is taken to exist, one FSMKDir each. 0, or -1 if `root` is no

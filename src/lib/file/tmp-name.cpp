@@ -42,7 +42,7 @@ void TmpNameGen::reseed() {
 }
 
 std::string TmpNameGen::getTmpName() {
-    // It holds its bounds alone and is used under the mutex, so that all threads can share it.
+    // Shared by all threads: it has no state but its bounds.
     static std::uniform_int_distribution<int> distribution(0, 63);
     const std::lock_guard<std::mutex> lock(mutex_);
     char name[kNameLength + 1] = {};
@@ -58,7 +58,7 @@ std::string TmpNameGen::getTmpPath(const std::string& folder) {
 
 int FSMktemp(const std::string& folder, std::string& outPath) {
     char buffer[kPathBuffer];
-    // A folder that does not fit is cut, and mkstemp refuses what then lacks the six letters.
+    // A path that does not fit is cut, and without the six letters at its end mkstemp refuses it.
     static_cast<void>(std::snprintf(buffer, sizeof(buffer), "%s/XXXXXX", folder.c_str()));
     Fd file(mkostemp(buffer, O_CLOEXEC));
     if (!file) {
@@ -73,7 +73,7 @@ int FSMktemp(const std::string& folder, std::string& outPath) {
 }
 
 int FSCreateTempPath(const std::string& folder, std::string& outPath) {
-    // The copy ends at a first zero byte.
+    // By its c_str(): the path ends at a first zero byte.
     outPath = TmpNameGen::getInstance().getTmpPath(folder.c_str());
     return outPath.empty() ? -1 : 0;
 }

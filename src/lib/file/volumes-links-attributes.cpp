@@ -12,14 +12,14 @@
 
 namespace {
 
-// A link whose content fills the buffer may have been cut, so that the longest that passes has a byte less.
+// A content that fills the buffer may have been cut, so that it counts as too long.
 constexpr int kLinkBuffer = 1024;
 
 }  // namespace
 
 bool isMountPoint(const std::string& path) {
-    std::string type;
-    if (platform::VolumeTypeName(path, type) < 0) {
+    const std::optional<std::string> type = platform::VolumeTypeName(path);
+    if (!type) {
         const int error = errno;
         KQ_LOG_ERROR(kLogComponent, "isMountPoint: Failed to get file system info '%s'. %s\n", path.c_str(),
                      std::strerror(error));
@@ -29,10 +29,10 @@ bool isMountPoint(const std::string& path) {
 }
 
 bool IsMSDOS(const std::string& path) {
-    std::string type;
-    if (platform::VolumeTypeName(path, type) < 0) {
+    const std::optional<std::string> type = platform::VolumeTypeName(path);
+    if (!type) {
         const int error = errno;
-        // Deliberate: the message goes by another name than the function's. Whoever reads logs knows it so.
+        // The message names another function, deliberately: the log's readers know the line so.
         KQ_LOG_ERROR(kLogComponent, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n", path.c_str(),
                      std::strerror(error));
         return false;
@@ -93,7 +93,7 @@ int FSChown(const std::string& path, std::uint32_t uid, std::uint32_t gid) {
     return 0;
 }
 
-// Deliberate: follows a link where FSChown does not.
+// Follows a link, deliberately, though FSChown does not.
 int FSChmod(const std::string& path, std::uint16_t mode) {
     if (chmod(path.c_str(), mode) < 0) {
         const int error = errno;

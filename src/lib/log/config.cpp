@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kLineBuffer = 8192;
 
-// Whether the path leads to what may keep a reader waiting, or reading, without an end: a FIFO, a device.
+// Whether the path leads to a FIFO or a device, where reading may wait, or go on, without an end.
 bool IsEndless(const std::string& path) {
     struct stat info {};
     return stat(path.c_str(), &info) == 0 && (S_ISFIFO(info.st_mode) || S_ISCHR(info.st_mode));
@@ -54,8 +54,8 @@ int Config::read(const std::string& path) {
     while (std::fgets(line, sizeof(line), file.get()) != nullptr) {
         const int result = parse(line, key, value);
         if (result == PARSE_MALFORMED) {
-            // Deliberately everything, entries of an earlier read too: half a file would raise the levels of some
-            // components and not of others.
+            // Everything goes, entries of an earlier read too: with half a file some components would be at the level
+            // that was asked for, and others not.
             entries_.clear();
             return -1;
         }
@@ -69,8 +69,8 @@ int Config::read(const std::string& path) {
 int Config::parse(char* line, std::string& key, std::string& value) const {
     char* const key_start = SkipWhile(is_space, line);
     char* const key_end = SkipWhile(is_key_char, key_start);
-    // Deliberately ahead of the blanks: "key#..." is a comment and a key that ends the text is nothing, while "key "
-    // is malformed. What depends on it: a last line without a line feed doesn't spoil the file.
+    // Before blanks are skipped, deliberately: "key#..." is a comment and "key" at the end of the text is nothing, but
+    // "key " is malformed. So a last line that was cut short doesn't spoil the file.
     if (*key_end == '#' || *key_end == '\0') {
         return PARSE_NOTHING;
     }
@@ -112,7 +112,7 @@ int Config::get_int(const std::string& key) {
     std::stringstream text;
     text.imbue(std::locale::classic());
     text << entries_[key];
-    // Where extraction finds no number it stores 0, and the nearest int where it finds one that is out of range.
+    // Extraction stores 0 where there is no number, and the nearest int where the number is out of range.
     int number = 0;
     text >> number;
     return number;

@@ -9,7 +9,7 @@ int log_statement::ProcessId() {
 }
 
 int log_statement::ThreadNumber() {
-    // A number on one platform and a pointer on the other: its 64 bits count, not its type.
+    // On Linux a number, on macOS a pointer: only its 64 bits count.
     const pthread_t thread = pthread_self();
     std::uint64_t number = 0;
     static_assert(sizeof(thread) == sizeof(number));

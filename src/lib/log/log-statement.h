@@ -6,6 +6,8 @@
 //     KQ_LOG_ERROR("service_debug", "failed to create folder: '%s'\n", folder.c_str());
 #pragma once
 
+#include <string_view>
+
 #include "log/logger.h"
 
 namespace log_statement {
@@ -19,13 +21,7 @@ int ThreadNumber();
 
 // The text after the last "/" of a compile-time path. The result points into the argument.
 constexpr const char* FileName(const char* path) {
-    const char* name = path;
-    for (const char* at = path; *at != '\0'; ++at) {
-        if (*at == '/') {
-            name = at + 1;
-        }
-    }
-    return name;
+    return path + (std::string_view(path).rfind('/') + 1);
 }
 
 }  // namespace log_statement

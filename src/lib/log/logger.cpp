@@ -15,12 +15,12 @@
 
 namespace {
 
-// The level of a component that the level file doesn't name: warnings and errors go out.
+// Warnings and errors: the level of a component that the level file doesn't name.
 constexpr std::int32_t kDefaultLevel = Logger::LEVEL_WARNING;
 
 constexpr std::size_t kTimeStampBuffer = 512;
 
-// Puts errno back at the end of a scope whose library calls may set it although nothing went wrong.
+// Puts errno back at the end of a scope: library calls may set it although nothing went wrong.
 class ErrnoKeeper {
 public:
     ErrnoKeeper() = default;
@@ -34,8 +34,8 @@ private:
 
 // Writes the local time in whole seconds, with a blank behind it, to `text`. Source: localtime(3), strftime(3).
 void FormatTimeStamp(std::time_t now, char (&text)[kTimeStampBuffer]) {
-    // Where a machine has no time zone file, localtime leaves ENOENT. The message behind the stamp may still read the
-    // caller's errno ("%m"), and so may the caller afterwards.
+    // localtime leaves ENOENT where the machine has no time zone file; but the message may show the caller's errno
+    // ("%m"), and the caller may read it afterwards.
     const ErrnoKeeper keeper;
     const std::tm* const local = std::localtime(&now);
     if (local == nullptr || std::strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%S ", local) == 0) {
@@ -54,10 +54,9 @@ struct TimeStamp {
 
 // The time stamp of this moment, valid until this thread's next call.
 //
-// With TZ unset, localtime asks the file system on each call whether the machine's time zone was replaced, which takes
-// longer than to write the message. Within the same second and the same TZ the stamp is therefore kept; a time zone
-// that is replaced meanwhile shows from the next second on. Each thread keeps its own, since a logger without a mutex
-// may have several.
+// It is kept while the second and TZ stay the same: with TZ unset, localtime looks at the machine's time zone file on
+// each call, which takes longer than to write the message. Each thread keeps its own, since a logger without a mutex
+// may serve several.
 const char* CurrentTimeStamp() {
     static thread_local TimeStamp kept;
     const std::time_t now = std::time(nullptr);
@@ -81,8 +80,7 @@ const char* CurrentTimeStamp() {
 
 Logger::InitConfig Logger::config;
 std::unordered_map<std::string, std::int32_t> Logger::log_level;
-// Deliberately standard error beside a type that says standard output, and open: what is logged before Initialize()
-// goes, time-stamped, to standard error.
+// Not the stream that `config.type` names, deliberately: what is logged before Initialize() goes to standard error.
 std::atomic<std::FILE*> Logger::log_fp{stderr};
 std::string Logger::log_path;
 std::atomic<bool> Logger::log_initialized{true};
@@ -128,8 +126,7 @@ int Logger::Initialize(const InitConfig& init_config) {
 }
 
 void Logger::ReadLevels(const std::string& debug_conf_path) {
-    // Deliberately without effect on anything: no statement logs under this name, and GetCompLevel() doesn't fall
-    // back to it. What depends on it: "default_component" in a level file changes no component.
+    // Has no effect, deliberately: no statement logs under this name, and GetCompLevel() doesn't fall back to it.
     log_level["default_component"] = kDefaultLevel;
     if (debug_conf_path.empty()) {
         return;
@@ -149,8 +146,7 @@ int Logger::OpenDestination(const std::string& path) {
         case TYPE_STDERR: UseStream(stderr); return 0;
         case TYPE_FILE: break;
     }
-    // Deliberately for each other number too: its file is opened and stays empty, since LogMsg2 sends its messages to
-    // standard error.
+    // For a number above TYPE_FILE as well, deliberately: its file stays empty, as LogMsg2 writes to standard error.
     if (path.empty()) {
         return -1;
     }
@@ -178,16 +174,14 @@ void Logger::UseStream(std::FILE* stream) {
 
 void Logger::Destroy() {
     log_initialized = false;
-    // Deliberately not for a type above it, whose file stays open: what is reset here is the state of a log file that
-    // is in use.
+    // The file of a type above it stays open, deliberately.
     if (config.type == TYPE_FILE) {
         std::FILE* const file = log_fp;
         // After an Initialize() that could not open its file, the stream is still one of the process's own.
         if (file != nullptr && file != stdout && file != stderr) {
             std::fclose(file);
         }
-        // Deliberately standard output beside a type that says standard error. It can't show: logging is shut until
-        // Initialize() has set both anew.
+        // Stream and type do not agree, deliberately, and nobody sees it: logging is shut until Initialize() sets both.
         log_fp = stdout;
         config.type = TYPE_STDERR;
         log_path.clear();
@@ -294,15 +288,14 @@ void Logger::LogMsg2(Level level, const std::string& component, const char* form
     switch (config.type) {
         case TYPE_SYSLOG: {
             const ErrnoKeeper keeper;
-            // Deliberately the priority of an error, whatever the message's level: a system log that is set up to
-            // keep errors alone keeps all of it.
+            // An error, whatever the message's level, deliberately: even a system log that keeps errors alone keeps it.
             vsyslog(LOG_ERR, format, arguments);
             break;
         }
         case TYPE_STDOUT:
         case TYPE_STDERR:
         case TYPE_FILE: written = PrintToFilePointerV(format, arguments); break;
-        // Deliberately without a time stamp, a flush or a count: no destination is known by this number.
+        // No destination has this number; without a time stamp, a flush or a count, deliberately.
         default: std::vfprintf(stderr, format, arguments); break;
     }
     RotateIfFileBig(written);
@@ -317,7 +310,7 @@ void Logger::LogMsg3(Level level, const std::string& component, std::stringstrea
     const int error = errno;
     std::string format = "%s";
     if ((flags & FLAG_ERRNO) != 0 && error != 0) {
-        // As text, so that a stream that is set to hexadecimal still gets it in decimal.
+        // As text: the caller's stream may be set to hexadecimal.
         stream << ", err=" + std::to_string(error) + ":";
         format += "%m";
     }
@@ -342,7 +335,7 @@ int Logger::PrintToFilePointer(const char* format, ...) {
 }
 
 int Logger::PrintToFilePointerV(const char* format, std::va_list arguments) {
-    // The test that counts when the rotation by another thread failed while this one waited for the lock.
+    // Null where another thread failed to rotate the file while this one waited for the lock.
     std::FILE* const stream = log_fp;
     if (stream == nullptr) {
         return 0;

@@ -25,26 +25,24 @@ int Logger::RotateIfFileBig(int written) {
     if (config.type != TYPE_FILE || written < 0) {
         return 0;
     }
-    // In 64 bits, since a file continued from an earlier run may already fill 31 of them.
+    // In 64 bits: the file of an earlier run may be as large as 32 bits can say.
     const std::int64_t size = std::int64_t{*log_size} + written;
     if (size <= kRotationThreshold) {
         *log_size = static_cast<std::int32_t>(size);
         return 0;
     }
     const int result = Rotate();
-    // Deliberately after a failure too. The stream is null then, and logging is off; the threads that already wait for
-    // the lock would otherwise try again, each of them.
+    // After a failure too, or each thread that waits for the lock would try again.
     *log_size = 0;
     return result;
 }
 
 int Logger::Rotate() {
-    // A generation that doesn't exist yet is no trouble, so that the callers of the statement that rotates find errno
-    // as they left it.
+    // A generation that doesn't exist sets errno, and is no failure that a caller should see.
     const int errno_before = errno;
     MoveGenerations();
-    // The other threads test `log_fp` without the lock and drop their message where it is null. It is therefore left
-    // in place, closed and unused, and set once: to the new stream, or to null when logging is off from here on.
+    // Closed, but still in `log_fp`: other threads look at that without the lock, and drop their message if it is null.
+    // It is set once, to the new stream, or to null where logging is off from here on.
     if (std::FILE* const old_file = log_fp; old_file != nullptr) {
         std::fclose(old_file);
     }
@@ -74,8 +72,8 @@ void Logger::MoveGenerations() {
     for (std::int32_t number = config.rotate_count - 2; number >= 0; --number) {
         std::rename(NameOfGeneration(log_path, number).data(), NameOfGeneration(log_path, number + 1).data());
     }
-    // The oldest generation, which the first step above has just moved there, goes by its own removal and isn't
-    // overwritten. With a count of 1 that is generation 0 itself, which the live file then replaces.
+    // The first step above has just moved the oldest generation there. With a count of 1 it is generation 0, whose
+    // place the live file takes.
     std::remove(NameOfGeneration(log_path, config.rotate_count - 1).data());
 }
 

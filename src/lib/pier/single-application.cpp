@@ -43,16 +43,15 @@ Arguments& ForQt(int argc, char** argv) {
     return arguments;
 }
 
-// Whether the folder is this user's and nobody else may write it: what lies in it is then no stranger's doing.
+// Whether the folder is this user's and nobody else can write to it, so that no stranger has put anything there.
 bool IsPrivate(const QString& folder) {
     struct stat info = {};
     return lstat(QFile::encodeName(folder).constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
            info.st_uid == getuid() && (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-// The folders that may hold the lock, the best first: XDG_RUNTIME_DIR; where that is not set, as in a session of
-// another kind, the place where the system keeps it; and one of our own below the folder for temporary files.
-// QStandardPaths would do for the first, but it talks to standard error about every machine that does not set it.
+// The folders that may hold the lock, the best first: XDG_RUNTIME_DIR; the place where the system keeps it, for a
+// session that does not set it; and one of our own below the folder for temporary files.
 QStringList RuntimeFolders() {
     return {qEnvironmentVariable("XDG_RUNTIME_DIR"), QStringLiteral("/run/user/%1").arg(getuid()),
             QDir::tempPath() + QStringLiteral("/%1-%2").arg(QCoreApplication::applicationName()).arg(getuid())};
@@ -72,7 +71,7 @@ QString LockName() {
 // removed: the folder is this user's alone. None where that can't be done.
 Fd OpenLockFile(const QByteArray& path) {
     for (int attempt = 0; attempt < 2; ++attempt) {
-        // Reading is enough for a lock, and a file that another user made may allow no more.
+        // For reading: that is enough for a lock, and another user's file may allow no more.
         Fd file(open(path.constData(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0644));
         struct stat info = {};
         if (file && fstat(file.get(), &info) == 0 && S_ISREG(info.st_mode)) {

@@ -1,14 +1,15 @@
 // What kind of volume a path lies on.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace platform {
 
-// Writes the type name of the volume that holds `path` (UTF-8), as statfs(2) reports it on macOS: "nfs", "smbfs",
+// The type name of the volume that holds `path` (UTF-8), as statfs(2) reports it on macOS: "nfs", "smbfs",
 // "afpfs", "msdos" and others. Linux has no such name in statfs; there the magic number gives the same four names where
 // the volume is of that kind (FAT being "msdos", CIFS and SMB2 "smbfs") and an empty one for any other.
-// Returns 0, or -1 with errno set and `name` as it was. No state; any thread.
-int VolumeTypeName(const std::string& path, std::string& name);
+// No value, with errno set, where the system does not say. No state; any thread.
+std::optional<std::string> VolumeTypeName(const std::string& path);
 
 }  // namespace platform

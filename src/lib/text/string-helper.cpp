@@ -25,7 +25,7 @@ void Warn(const char* function, UErrorCode status, int line) {
               << std::endl;
 }
 
-// ICU's sign for a zero-terminated input. The callers rely on it: text ends at its first zero character.
+// What ICU takes for the length of a zero-terminated text: every text here ends at its first zero character.
 constexpr std::int32_t kZeroTerminated = -1;
 
 }  // namespace
@@ -43,7 +43,7 @@ int StringHelper::ConvertWstringToString(const std::u16string& in, std::string& 
     std::int32_t length = 0;
     u_strToUTF8(nullptr, 0, &length, in.c_str(), kZeroTerminated, &status);
 
-    // The sizing pass reports an overflow as a rule; the second pass repeats any other failure.
+    // A pass without a buffer reports an overflow; any other failure comes again in the pass with one.
     status = U_ZERO_ERROR;
     std::vector<char> buffer(static_cast<std::size_t>(length) + 1);
     u_strToUTF8(buffer.data(), length + 1, &length, in.c_str(), kZeroTerminated, &status);
@@ -75,13 +75,13 @@ std::string StringHelper::Normalize(const std::string& text, NormalizationForm f
     if (text.empty()) {
         return "";
     }
-    // A failed conversion leaves this empty and goes on: malformed text comes out as "" with the one warning. The
-    // comparison of paths with an exact spelling accepts that two such paths look equal.
+    // Stays empty where the text is malformed, which has then been warned of: the result is "". Whoever compares paths
+    // accepts that two malformed ones look equal.
     std::u16string wide;
     ConvertStringToWstring(text, wide);
 
     UErrorCode status = U_ZERO_ERROR;
-    // "nfc" for both forms: the mode makes the difference. The instance is ICU's own and lives as long as the process.
+    // ICU's name for both forms is "nfc"; the mode tells them apart. The instance is ICU's own.
     const UNormalizer2* normalizer = unorm2_getInstance(nullptr, "nfc", MapNormalizationFormToUnrom(form), &status);
     if (U_FAILURE(status) || normalizer == nullptr) {
         Warn("unorm2_getInstance", status, __LINE__);
@@ -108,13 +108,13 @@ bool StringHelper::IsValid(const std::string& text) {
     UErrorCode status = U_ZERO_ERROR;
     std::int32_t length = 0;
     u_strFromUTF8(nullptr, 0, &length, text.c_str(), kZeroTerminated, &status);
-    // Any other status is good, above all the overflow of a sizing pass.
+    // Without a buffer an overflow is what well-formed text gives.
     return status != U_INVALID_CHAR_FOUND;
 }
 
 void StringHelper::Rtrim(std::string& text, const std::string& chars) {
     const std::size_t last = text.find_last_not_of(chars);
-    // Deliberate: a text of nothing but blanks is not emptied.
+    // A text of nothing but such characters stays as it is, deliberately.
     if (last != std::string::npos) {
         text.erase(last + 1);
     }
@@ -127,7 +127,7 @@ std::string StringHelper::GetFormatTime(const char* format) {
     const std::time_t now = std::time(nullptr);
     char buffer[64];
     const std::size_t length = std::strftime(buffer, sizeof(buffer), format, std::localtime(&now));
-    // Of what does not fit the buffer holds no text at all.
+    // strftime gives 0 for a text that does not fit, and the buffer then holds anything.
     return length == 0 ? "" : buffer;
 }
 #pragma GCC diagnostic pop

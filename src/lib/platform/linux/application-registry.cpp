@@ -74,8 +74,8 @@ bool StartApplication(const QString& /*folder*/, const QString& executable) {
     const QByteArray path = QFile::encodeName(QFileInfo(executable).absoluteFilePath());
     const QByteArray folder = QFile::encodeName(QFileInfo(executable).absolutePath());
 
-    // Not QProcess: an application that it starts ignores SIGPIPE, and whatever signals this process was told to ignore
-    // or to block. A client that is deaf to SIGTERM for that could only be killed.
+    // Not QProcess: what that starts ignores SIGPIPE, and all signals that this process ignores or blocks. A client
+    // that is deaf to SIGTERM could only be killed.
     posix_spawnattr_t attributes;
     posix_spawn_file_actions_t actions;
     if (posix_spawnattr_init(&attributes) != 0) {

@@ -27,7 +27,7 @@ QString UnescapeString(const QString& value) {
     return text;
 }
 
-// Far more than any entry has: a file of other content is not read into memory as one line.
+// Far more than any entry has, so that a file of some other kind is not read into memory as one line.
 constexpr qint64 kLongestLine = 65536;
 
 bool LiesIn(const QString& program, const QString& folder) {
@@ -61,7 +61,7 @@ bool DesktopEntryRunsFrom(const QString& file, const QString& folder) {
     while (!entry.atEnd()) {
         const QString line = QString::fromUtf8(entry.readLine(kLongestLine)).trimmed();
         if (line.startsWith(QLatin1Char('['))) {
-            // Other groups, such as those of an application's further actions, don't say whose entry it is.
+            // Other groups, as for an application's further actions, don't say whose entry it is.
             isMain = line == QLatin1String("[Desktop Entry]");
         }
         if (!isMain) {

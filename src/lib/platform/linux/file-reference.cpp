@@ -27,7 +27,7 @@ int Resolve(const std::string& path, std::string& resolved) {
     return 0;
 }
 
-// As Resolve, but a symbolic link at the end stays. The path has a name at its end.
+// As Resolve, but does not follow a symbolic link at the end, where the path has a name.
 int ResolveParent(const std::string& path, std::size_t nameAt, std::string& resolved) {
     const std::string parent = nameAt == 0 ? "." : path.substr(0, std::max<std::size_t>(nameAt - 1, 1));
     if (const int error = Resolve(parent, resolved); error != 0) {
@@ -41,8 +41,8 @@ int ResolveParent(const std::string& path, std::size_t nameAt, std::string& reso
     return lstat(resolved.c_str(), &status) == 0 ? 0 : errno;
 }
 
-// Whether the folder whose path, "/" included, is `folder` has an object under another spelling of `name` as well: it
-// takes the two for one, or holds both. `folder` comes back as it was.
+// Whether the folder, a path with a "/" at its end, has an object under another spelling of `name`: it takes the two
+// for one, or holds both. `folder` comes back as it was.
 bool HasOtherSpelling(std::string& folder, const std::string& name) {
     const std::size_t length = folder.size();
     const std::vector<std::string> others = OtherSpellings(name);
@@ -55,9 +55,9 @@ bool HasOtherSpelling(std::string& folder, const std::string& name) {
     return found;
 }
 
-// The name under which the folder lists the object that it finds as `name`: exactly that or, of the entries that are
-// like it, rather the one with the object's inode, and then the one in the same Unicode form, as there are volumes that
-// ignore case but keep two forms apart. The name itself where none fits or the folder can't be listed.
+// The name under which the folder lists the object that it finds as `name`. That is `name` itself if it is listed;
+// else, of the names that are like it, the one with the object's inode, and after that the one in the same Unicode
+// form, since some volumes ignore case but keep two forms apart. `name` where none fits or the folder can't be listed.
 std::string ListedName(const std::string& folder, const std::string& name) {
     const DirStream stream(opendir(folder.c_str()));
     struct stat status = {};
@@ -82,11 +82,10 @@ std::string ListedName(const std::string& folder, const std::string& name) {
 
 // The absolute path with each name as its folder lists it.
 //
-// Which folders take two spellings for one is asked of each folder itself, by one lstat of a name that it would find
-// only then. That holds for any folder of any volume, where the kind of the volume does not tell: ext4, F2FS, tmpfs and
-// others have single folders that ignore case, XFS volumes may, FUSE serves both kinds. It is also the cheaper way, as
-// statfs would take a call for each folder too, and three more for its casefold flag. The inode of what is found
-// decides nothing: a FUSE server may give each spelling a number of its own.
+// Each folder is asked whether it takes two spellings for one: by one lstat of a name that it finds only if so. The
+// kind of the volume would not tell: ext4, F2FS, tmpfs and others have single folders that ignore case, XFS volumes
+// may, FUSE serves both kinds. To ask for it would also cost more calls a folder. The inode of what is found decides
+// nothing: a FUSE server may give each spelling a number of its own.
 std::string SpellNames(const std::string& path) {
     std::string spelled = "/";
     for (std::size_t at = 1; at < path.size();) {

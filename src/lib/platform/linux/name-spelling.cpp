@@ -7,12 +7,15 @@
 #include <unicode/ustring.h>
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
+#include <utility>
 
 namespace platform {
 
 namespace {
 
-bool IsAscii(const std::string& text) {
+bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
@@ -25,14 +28,15 @@ char LowerAscii(char byte) {
     return IsAsciiLetter(byte) ? static_cast<char>(byte | 0x20) : byte;
 }
 
-// Writes `text` as UTF-16 to `out`. False if it is not well-formed UTF-8.
-bool ReadUtf8(const std::string& text, icu::UnicodeString& out) {
+// The text as UTF-16. No value if it is not well-formed UTF-8.
+std::optional<icu::UnicodeString> ReadUtf8(std::string_view text) {
+    icu::UnicodeString out;
     const auto capacity = static_cast<std::int32_t>(text.size());  // UTF-16 never takes more units than UTF-8 bytes
     std::int32_t length = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(out.getBuffer(capacity), capacity, &length, text.data(), capacity, &status);
     out.releaseBuffer(U_SUCCESS(status) ? length : 0);
-    return U_SUCCESS(status);
+    return U_SUCCESS(status) ? std::make_optional(std::move(out)) : std::nullopt;
 }
 
 std::string WriteUtf8(const icu::UnicodeString& text) {
@@ -102,33 +106,34 @@ std::vector<std::string> OtherSpellings(const std::string& name) {
     if (hasAsciiLetter) {
         others.push_back(std::move(swapped));
     }
-    icu::UnicodeString text;
-    if (IsAscii(name) || !ReadUtf8(name, text)) {
+    const std::optional<icu::UnicodeString> text = IsAscii(name) ? std::nullopt : ReadUtf8(name);
+    if (!text) {
         return others;
     }
-    if (icu::UnicodeString other = text; !hasAsciiLetter && SwapCaseOfOne(other)) {
+    if (icu::UnicodeString other = *text; !hasAsciiLetter && SwapCaseOfOne(other)) {
         others.push_back(WriteUtf8(other));
     }
-    if (const icu::UnicodeString other = OtherForm(text); other != text) {
+    if (const icu::UnicodeString other = OtherForm(*text); other != *text) {
         others.push_back(WriteUtf8(other));
     }
     return others;
 }
 
 Likeness CompareNames(const std::string& left, const std::string& right) {
-    icu::UnicodeString leftText;
-    icu::UnicodeString rightText;
-    if ((IsAscii(left) && IsAscii(right)) || !ReadUtf8(left, leftText) || !ReadUtf8(right, rightText)) {
+    const bool areAscii = IsAscii(left) && IsAscii(right);
+    const std::optional<icu::UnicodeString> leftText = areAscii ? std::nullopt : ReadUtf8(left);
+    const std::optional<icu::UnicodeString> rightText = areAscii ? std::nullopt : ReadUtf8(right);
+    if (!leftText || !rightText) {
         const bool isSame = std::equal(left.begin(), left.end(), right.begin(), right.end(),
                                        [](char one, char other) { return LowerAscii(one) == LowerAscii(other); });
         return isSame ? Likeness::Case : Likeness::None;
     }
-    if (DifferInCaseAlone(leftText, rightText)) {
+    if (DifferInCaseAlone(*leftText, *rightText)) {
         return Likeness::Case;
     }
     UErrorCode status = U_ZERO_ERROR;
-    const std::int32_t order = unorm_compare(leftText.getBuffer(), leftText.length(), rightText.getBuffer(),
-                                             rightText.length(), U_COMPARE_IGNORE_CASE, &status);
+    const std::int32_t order = unorm_compare(leftText->getBuffer(), leftText->length(), rightText->getBuffer(),
+                                             rightText->length(), U_COMPARE_IGNORE_CASE, &status);
     return U_SUCCESS(status) && order == 0 ? Likeness::Form : Likeness::None;
 }
 

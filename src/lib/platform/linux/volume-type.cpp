@@ -18,14 +18,13 @@ const char* NameOfVolumeMagic(std::uint32_t magic) {
     }
 }
 
-int VolumeTypeName(const std::string& path, std::string& name) {
+std::optional<std::string> VolumeTypeName(const std::string& path) {
     struct statfs status = {};
     if (statfs(path.c_str(), &status) < 0) {
-        return -1;
+        return std::nullopt;
     }
-    // Signed, and 32 bits wide on some machines: the number is its low 32 bits.
-    name = NameOfVolumeMagic(static_cast<std::uint32_t>(status.f_type));
-    return 0;
+    // The field is signed and on most machines wider: the magic number is its low 32 bits.
+    return NameOfVolumeMagic(static_cast<std::uint32_t>(status.f_type));
 }
 
 }  // namespace platform

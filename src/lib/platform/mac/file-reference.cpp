@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-// The service is deprecated, and the one that tells how a path is really spelled.
+// The service is deprecated, but no other tells how a path is really spelled.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 

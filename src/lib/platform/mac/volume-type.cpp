@@ -11,13 +11,12 @@ namespace platform {
 static_assert(std::is_same_v<decltype(&::statfs), int (*)(const char*, struct statfs*)>);
 static_assert(sizeof(statfs::f_fstypename) >= 16, "holds the type name with its terminator");
 
-int VolumeTypeName(const std::string& path, std::string& name) {
+std::optional<std::string> VolumeTypeName(const std::string& path) {
     struct statfs status = {};
     if (::statfs(path.c_str(), &status) < 0) {
-        return -1;
+        return std::nullopt;
     }
-    name = status.f_fstypename;
-    return 0;
+    return status.f_fstypename;
 }
 
 }  // namespace platform

@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_ALL, "");
     platform::EnsureUtf8CharacterSet();
     platform::IgnoreWriteSignals();
+    platform::KeepTimeZone();
     qInitResources_texts();
     FillPathTable(Service::GetUserInstallPath(), QCoreApplication::applicationDirPath());
     StartLog();

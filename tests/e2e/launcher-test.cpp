@@ -46,7 +46,8 @@ void LauncherTest::LayBundle(int build) {
 
 std::vector<PackageEntry> LauncherTest::ClientEntries(int build) {
     const std::string number = std::to_string(build);
-    const std::string script = "#!/bin/sh\necho \"started " + number + " in $PWD\" > \"$KQ_TEST_MAILBOX\"\n";
+    const std::string script =
+        "#!/bin/sh\necho \"started " + number + " in $PWD${TZ+, zone $TZ}\" > \"$KQ_TEST_MAILBOX\"\n";
     return {{"Contents/", "", S_IFDIR, 0755},
             {"Contents/Resources/", "", S_IFDIR, 0755},
             {"Contents/Resources/only-in-" + number, number},
@@ -110,7 +111,9 @@ Lines LauncherTest::Traced(const Lines& arguments) const {
 }
 
 std::string LauncherTest::StartedLine(int build) const {
-    return "started " + std::to_string(build) + " in " + App() + "/Contents/MacOS";
+    const auto zone = environment_.find("TZ");
+    return "started " + std::to_string(build) + " in " + App() + "/Contents/MacOS" +
+           (zone == environment_.end() ? "" : ", zone " + zone->second);
 }
 
 void LauncherTest::ExpectLaunched(const Outcome& outcome, int build) {

@@ -40,7 +40,7 @@ protected:
     // The prefix for strace with these arguments, all threads followed, what it traces in the file "trace".
     Lines Traced(const Lines& arguments) const;
 
-    // What the client says when it has been started: "started BUILD in WORKINGFOLDER".
+    // What the client says when it has been started: "started BUILD in WORKINGFOLDER, zone TZ".
     std::string StartedLine(int build) const;
 
     // Checks a good run: exit code 0, nothing on the standard streams, and the client of this build started.

@@ -212,7 +212,7 @@ TEST_F(UpgradeTest, PrivateFolderInTheWay) {
     fs::create_symlink(At("elsewhere"), home_ + "/.KelvaneQuay");
     EXPECT_EQ(Launch().errors, "");
     // The shell in the client's script says where it really is.
-    EXPECT_EQ(mailbox_.ReadLine(), "started 1000 in " + At("elsewhere/KelvaneQuay.app/Contents/MacOS"));
+    EXPECT_EQ(mailbox_.ReadLine(), "started 1000 in " + At("elsewhere/KelvaneQuay.app/Contents/MacOS") + ", zone UTC");
     EXPECT_EQ(ReadTree(At("elsewhere/KelvaneQuay.app")), ClientTree(1000));
 }
 

@@ -18,6 +18,12 @@ void DropQtWarnings();
 // where no UTF-8 locale exists. Source: setlocale(3), nl_langinfo(3), archive_entry(3).
 void EnsureUtf8CharacterSet();
 
+// Has the system's time zone looked up once. Linux: the C library looks whether it has changed whenever a local time is
+// worked out, and libarchive does that four times for each entry of a zip; where TZ is set, it does not look. What
+// StartApplication starts gets an environment without that. macOS: nothing, the library there is told of a change.
+// Source: tzset(3).
+void KeepTimeZone();
+
 // Makes a write to a pipe without a reader, or beyond the limit for a file's size, a failure like any other in place of
 // the process's end (SIGPIPE, SIGXFSZ). StartApplication gives both back to what it starts. Source: signal(7).
 void IgnoreWriteSignals();

@@ -10,8 +10,11 @@
 #include <QProcess>
 #include <QStringList>
 #include <csignal>
+#include <string>
+#include <vector>
 
 #include "platform/linux/desktop-entry.h"
+#include "platform/linux/time-zone.h"
 
 namespace platform {
 namespace {
@@ -43,6 +46,20 @@ int RefreshDatabase(const QString& folder) {
         return 0;
     }
     return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -2;
+}
+
+// This process's environment without the time zone that KeepTimeZone put into it: the application follows a change. The
+// texts stay the environment's.
+std::vector<char*> EnvironmentForOthers() {
+    const std::string own = std::string(kTimeZoneVariable) + "=" + kSystemTimeZone;
+    std::vector<char*> settings;
+    for (char** setting = environ; *setting != nullptr; ++setting) {
+        if (own != *setting) {
+            settings.push_back(*setting);
+        }
+    }
+    settings.push_back(nullptr);
+    return settings;
 }
 
 }  // namespace
@@ -100,7 +117,8 @@ bool StartApplication(const QString& /*folder*/, const QString& executable) {
     QByteArray name = path;
     char* const arguments[] = {name.data(), nullptr};
     pid_t process = -1;
-    const int error = posix_spawn(&process, path.constData(), &actions, &attributes, arguments, environ);
+    const int error =
+        posix_spawn(&process, path.constData(), &actions, &attributes, arguments, EnvironmentForOthers().data());
     posix_spawn_file_actions_destroy(&actions);
     posix_spawnattr_destroy(&attributes);
     return error == 0;

@@ -1,0 +1,4 @@
+#include "platform/process-setup.h"
+
+void platform::KeepTimeZone() {
+}

@@ -1,0 +1,66 @@
+// What the launcher asks of the system, counted: the same on every machine, however busy it is.
+#include <sstream>
+
+#include "launcher-test.h"
+
+namespace {
+
+class CostTest : public LauncherTest {
+protected:
+    CostTest() {
+        environment_.erase("TZ");  // which would spare the looks at the system's zone
+    }
+
+    void SetUp() override {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+        GTEST_SKIP() << "a sanitizer makes calls of its own";
+#endif
+    }
+
+    // What strace, with these options, writes of a start.
+    std::string TraceOf(const Lines& options, int build) {
+        ExpectLaunched(Launch(Traced(options)), build);
+        return Read(At("trace"));
+    }
+
+    // The system calls of an upgrade from and to a client that has so many small files beside the usual entries.
+    long CallsOfAnUpgrade(int build, int files) {
+        for (int next = build; next <= build + 1; ++next) {
+            LayBundle(next);
+            std::vector<PackageEntry> entries = ClientEntries(next);
+            for (int at = 0; at < files; ++at) {
+                entries.insert(entries.begin() + 1, {"Contents/file" + std::to_string(at), "a few bytes"});
+            }
+            WritePackage(Package(), entries);
+            if (next == build) {
+                ExpectLaunched(Launch(), build);
+            }
+        }
+        const std::string table = TraceOf({"-c", "-U", "name,calls"}, build + 1);
+        const std::string total = "total";
+        return std::atol(table.substr(table.find(total) + total.size()).c_str());
+    }
+};
+
+TEST_F(CostTest, CallsForEachEntryOfAnUpgrade) {
+    constexpr int kMore = 400;
+    const long few = CallsOfAnUpgrade(1000, 0);
+    const double each = static_cast<double>(CallsOfAnUpgrade(2000, kMore) - few) / kMore;
+    EXPECT_LE(each, 14.0);
+    EXPECT_GE(each, 5.0) << "an entry can't be replaced with less";
+}
+
+TEST_F(CostTest, LooksAtTheHomeByAStartWithNothingToDo) {
+    InstallClient(1000);
+    LayBundle(1000);
+    ExpectLaunched(Launch(), 1000);
+    std::istringstream trace(TraceOf({"-e", "trace=%file"}, 1000));
+    int looks = 0;
+    for (std::string line; std::getline(trace, line);) {
+        looks += line.find("/.KelvaneQuay") != std::string::npos ? 1 : 0;
+    }
+    EXPECT_LE(looks, 24);
+    EXPECT_GE(looks, 3) << "INFO, the binary and its start";
+}
+
+}  // namespace

@@ -33,7 +33,7 @@ class Mac(unittest.TestCase):
             fake = self.home / name
             fake.write_text("#!/bin/sh\n" + body + "\n")
             fake.chmod(stat.S_IRWXU)
-        for name in ("sh", "dirname", "getconf"):
+        for name in ("sh", "date", "dirname", "getconf", "mkdir", "sed", "sleep", "tail"):
             (self.home / name).symlink_to(shutil.which(name))
 
     def run_script(self, *command):
@@ -62,9 +62,11 @@ class Mac(unittest.TestCase):
     def test_all_is_built_and_tested_by_the_same_commands(self):
         self.install(FORMULAS)
         processors = os.sysconf("SC_NPROCESSORS_ONLN")
-        self.assertEqual(self.run_script("scripts/test", "debug", "-R", "x"),
-                         (0, "", ["cmake --preset debug", "cmake --build build/debug",
-                                  f"ctest --preset debug --parallel {2 * processors} -R x"]))
+        code, said, done = self.run_script("scripts/test", "debug", "-R", "x")
+        self.assertEqual(code, 0, said)
+        self.assertIn("build: debug (log: build/debug.log)", said)
+        self.assertEqual(done, ["cmake --preset debug", "cmake --build build/debug",
+                                f"ctest --preset debug --parallel {2 * processors} -R x"])
 
     def test_cmake_finds_what_homebrew_keeps_apart(self):
         self.install("qt@5/lib/cmake/Qt5")

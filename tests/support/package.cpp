@@ -23,7 +23,7 @@ void WritePackage(const std::string& file, const std::vector<PackageEntry>& entr
         archive_entry* entry = archive_entry_new();
         archive_entry_set_pathname(entry, source.path.c_str());
         archive_entry_set_filetype(entry, source.type);
-        archive_entry_set_perm(entry, source.mode);
+        archive_entry_set_perm(entry, static_cast<mode_t>(source.mode));
         const std::size_t size = source.type == S_IFREG ? source.content.size() : 0;
         archive_entry_set_size(entry, static_cast<la_int64_t>(size));
         if (source.type == S_IFLNK) {

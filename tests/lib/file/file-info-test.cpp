@@ -37,7 +37,8 @@ TEST_F(FileInfoTest, TheRecordIsThatOfLstat) {
     fs::create_symlink("directory", At("link"));
     ASSERT_EQ(0, mkfifo(At("fifo").c_str(), 0604));
     const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address = {AF_UNIX, ""};
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
     std::strcpy(address.sun_path, At("socket").c_str());
     ASSERT_EQ(0, bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof(address)));
     close(socket);

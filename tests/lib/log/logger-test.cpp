@@ -36,7 +36,8 @@ void vsyslog(int priority, const char* format, std::va_list arguments) {
     errno = ENOTSOCK;
 }
 
-std::time_t time(std::time_t* result) noexcept {
+// Some systems promise that theirs throws nothing.
+std::time_t time(std::time_t* result) noexcept(noexcept(std::time(nullptr))) {
     const std::time_t stopped = stoppedAt;
     const std::time_t now =
         stopped != -1 ? stopped : std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());

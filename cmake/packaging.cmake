@@ -40,7 +40,9 @@ install(FILES ${kq_dialog_icon} DESTINATION ${kq_bundle}/Contents/Resources/imag
 install(DIRECTORY DESTINATION ${kq_bundle}/Contents/Resources/package COMPONENT bundle)
 
 install(TARGETS quay-package RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
-install(FILES ${PROJECT_SOURCE_DIR}/docs/packaging.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quay-package
+install(FILES ${PROJECT_SOURCE_DIR}/docs/packaging.md ${PROJECT_SOURCE_DIR}/docs/findings.md
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quay-package COMPONENT tool)
+install(FILES ${PROJECT_SOURCE_DIR}/tools/quay-package/quay-package.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
         COMPONENT tool)
 
 set(CPACK_PACKAGE_NAME quay-package)

@@ -21,7 +21,7 @@ for formula; do echo "$HOME/opt/$formula"; done''',
     "cmake": 'echo cmake "$@" >>"$LOG"',
     "ctest": 'echo ctest "$@" >>"$LOG"',
 }
-FORMULAS = "cmake ninja qt@5 icu4c libarchive googletest python3"
+FORMULAS = "cmake ninja qt@5 icu4c libarchive libplist googletest python3"
 
 
 class Mac(unittest.TestCase):
@@ -50,7 +50,7 @@ class Mac(unittest.TestCase):
     def test_setup_installs_what_is_missing(self):
         self.assertEqual(self.run_script("scripts/setup")[2], ["install " + FORMULAS])
         self.install("cmake qt@5 libarchive")
-        self.assertEqual(self.run_script("scripts/setup")[2], ["install ninja icu4c googletest python3"])
+        self.assertEqual(self.run_script("scripts/setup")[2], ["install ninja icu4c libplist googletest python3"])
         self.assertEqual(self.run_script("scripts/setup", "demo")[::2], (2, []))
 
     def test_setup_says_what_to_do_without_homebrew(self):

@@ -1,66 +1,24 @@
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <QFile>
-#include <algorithm>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <cstdio>
+#include <filesystem>
 
-#include "archive-reader.h"
-#include "command.h"
-#include "content-check.h"
-#include "file/file-op.h"
-#include "interruption.h"
-#include "log/config.h"
-#include "names.h"
-#include "output-file.h"
+#include "bundle-check.h"
+#include "commands.h"
+#include "files.h"
+#include "platform/exchange.h"
 #include "product-layout.h"
-#include "report.h"
-#include "version-probe.h"
+#include "text.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char kCommand[] = "bundle";
-constexpr std::size_t kLargestText = 1 << 20;
-
-struct Options {
-    std::string output;
-    std::string launcher;
-    std::string package;
-    std::string icon;    // empty: the tool's own
-    std::string levels;  // empty: none
-    std::string installedAt;
-};
-
 std::string OwnFile(const char* name) {
     QFile file(QStringLiteral(":/bundle/") + QString::fromLatin1(name));
-    file.open(QIODevice::ReadOnly);
-    return file.readAll().toStdString();
-}
-
-// Reads a package's INFO. False: the package can't be read up to it, and `error` tells why. `info` is empty if there
-// is none.
-bool ReadPackageInfo(const std::string& package, std::string& info, std::string& error) {
-    ArchiveReader reader;
-    Entry entry;
-    if (!reader.Open(package)) {
-        error = package + ": " + reader.error();
-        return false;
-    }
-    for (ArchiveReader::Result result; (result = reader.Next(entry)) != ArchiveReader::End;) {
-        bool good = result == ArchiveReader::Header;
-        if (good && entry.path == kInfoEntry) {
-            info.clear();
-            good = reader.ReadData([&info](const char* bytes, std::size_t size) {
-                info.append(bytes, size);
-                return info.size() < kLargestText;
-            });
-        }
-        if (!good) {
-            error = package + ": " + reader.error();
-            return false;
-        }
-    }
-    return true;
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
 void Replace(std::string& text, const std::string& key, const std::string& value) {
@@ -69,115 +27,68 @@ void Replace(std::string& text, const std::string& key, const std::string& value
     }
 }
 
-// Lays a bundle into an empty folder. Operations return an empty text or what failed.
-class Laying {
-public:
-    Laying(const Options& options, std::string folder) : options_(options), folder_(std::move(folder)) {}
-
-    std::string Run(const std::string& info);
-    const Versions& versions() const { return versions_; }
-
-private:
-    // Writes below the folder, parents included.
-    std::string Write(const char* file, const std::string& bytes);
-    std::string Copy(const std::string& from, const char* file, unsigned mode);
-    std::string PathOf(const char* file);
-    std::string PropertyList() const;
-
-    const Options& options_;
-    const std::string folder_;
-    Versions versions_;
-};
-
-std::string Laying::PathOf(const char* file) {
-    std::string path = folder_ + "/" + file;
-    FSMKDir(FSParentPath(path), true);
-    return path;
-}
-
-std::string Laying::Write(const char* file, const std::string& bytes) {
-    return WriteWholeFile(PathOf(file), bytes, 0644);
-}
-
-std::string Laying::Copy(const std::string& from, const char* file, unsigned mode) {
-    return CopyWholeFile(from, PathOf(file), mode);
-}
-
-std::string Laying::PropertyList() const {
+std::string PropertyList(const VersionInfo& versions) {
     std::string text = OwnFile("Info.plist.in");
-    const std::string shortVersion = versions_.majorVersion + "." + versions_.minorVersion;
+    const std::string shortVersion = versions.majorVersion.value_or("0") + "." + versions.minorVersion.value_or("0");
     Replace(text, "@KQ_SHORT_VERSION@", QString::fromStdString(shortVersion).toHtmlEscaped().toStdString());
-    Replace(text, "@KQ_BUILD_VERSION@", versions_.build);
+    Replace(text, "@KQ_BUILD_VERSION@", versions.buildVersion.value_or("0"));
     return text;
 }
 
-std::string Laying::Run(const std::string& info) {
+// Lays the bundle into an empty folder.
+Error Lay(const CommandLine& line, const std::string& installedAt, const Package& package, const std::string& folder) {
+    std::string info;
+    for (const Entry& entry : package.entries) {
+        info = entry.path == kInfoFile ? entry.content : info;
+    }
     std::string desktop = OwnFile("kelvane-quay.desktop.in");
-    Replace(desktop, "@KQ_INSTALLED_AT@", options_.installedAt);
-
-    std::string error = Copy(options_.launcher, kLauncherFile, 0755);
-    const auto then = [&error](const std::string& next) { error = error.empty() ? next : error; };
-    then(Copy(options_.package, kPackageFile, 0644));
-    then(Write(kInfoFile, info));
-    versions_ = ReadVersions(folder_ + "/Contents");
-    then(options_.icon.empty() ? Write(kIconFile, OwnFile("ico_72_tessaly.png"))
-                               : Copy(options_.icon, kIconFile, 0644));
-    if (!options_.levels.empty()) {
-        then(Copy(options_.levels, kLevelFile, 0644));
+    Replace(desktop, "@KQ_INSTALLED_AT@", installedAt);
+    const std::string launcher = line.Path("launcher");
+    const auto at = [&folder](const char* file) { return folder + "/" + file; };
+    Error error =
+        CopyFile(launcher, at(kLauncherFile), QFileInfo(QString::fromStdString(launcher)).isExecutable() ? 0755 : 0644);
+    error = error ? error : CopyFile(package.file, at(kPackageFile), 0644);
+    error = error ? error : WriteFile(at(kInfoFile), info, 0644);
+    if (!error) {
+        error = line.IsSet("icon") ? CopyFile(line.Path("icon"), at(kIconFile), 0644)
+                                   : WriteFile(at(kIconFile), OwnFile("ico_72_tessaly.png"), 0644);
     }
-    then(Write(kSystemIconFile, OwnFile("KelvaneQuay.icns")));
-    then(Write(kDesktopFile, desktop));
-    then(Write(kPropertyListFile, PropertyList()));
-    then(Write(kTypeFile, "APPL????"));
-    return error;
+    if (!error && line.IsSet("levels")) {
+        error = CopyFile(line.Path("levels"), at(kLevelFile), 0644);
+    }
+    error = error ? error : WriteFile(at(kSystemIconFile), OwnFile("KelvaneQuay.icns"), 0644);
+    error = error ? error : WriteFile(at(kDesktopFile), desktop, 0644);
+    error = error ? error : WriteFile(at(kPropertyListFile), PropertyList(package.versions), 0644);
+    return error ? error : WriteFile(at(kTypeFile), "APPL????", 0644);
 }
 
-// What is wrong with what the bundle is to be made of.
-void CheckParts(const Options& options, const std::string& info, Findings& findings) {
-    struct stat launcher = {};
-    launcher.st_mode = S_IXUSR;  // a file that is not there fails its copying
-    if (stat(options.launcher.c_str(), &launcher) == 0 && !S_ISREG(launcher.st_mode)) {
-        findings.Add(Code::BundleLauncherMissing, options.launcher);
-    } else if ((launcher.st_mode & S_IXUSR) == 0) {
-        findings.Add(Code::BundleLauncherNotExecutable, options.launcher);
-    }
-    if (info.empty()) {
-        findings.Add(Code::InfoMissing, kInfoEntry);
-    }
-    std::string icon;
-    if (!options.icon.empty() && !(ReadWholeFile(options.icon, 8, icon) && IsPng(icon))) {
-        findings.Add(Code::BundleIcon, options.icon);
-    }
-    if (!options.levels.empty() && Config().read(options.levels) != 0) {
-        findings.Add(Code::BundleLevels, options.levels);
-    }
-}
-
-// Whether a bundle, or nothing, stands at the path: anything else is not replaced.
+// Whether a bundle, an empty folder or nothing stands at the path: anything else is not replaced.
 bool MayReplace(const std::string& path) {
-    struct stat info = {};
-    return lstat(path.c_str(), &info) != 0 ||
-           (S_ISDIR(info.st_mode) &&
-            (lstat((path + "/" + kLauncherFile).c_str(), &info) == 0 || rmdir(path.c_str()) == 0));
+    Entry there;
+    std::error_code failure;
+    return !Exists(path) || (Look(path, "", there) && there.kind == Kind::Folder &&
+                             (Exists(path + "/" + kLauncherFile) || fs::is_empty(path, failure)));
 }
 
-// Puts the laid folder into its place; an old bundle is moved aside first and removed last.
-std::string PutInPlace(const std::string& laid, const std::string& output) {
-    struct stat info = {};
-    if (lstat(output.c_str(), &info) != 0) {
-        return rename(laid.c_str(), output.c_str()) == 0 ? std::string() : SystemError(output);
+// Puts the laid folder into its place in one step; what stood there is then where the laid folder was. On a file system
+// that knows no such step what stood there comes back, whatever happens short of a kill.
+Error PutInPlace(const std::string& laid, const std::string& output) {
+    if (!Exists(output)) {
+        return std::rename(laid.c_str(), output.c_str()) == 0 ? Error() : Error::System(output);
+    }
+    if (platform::ExchangePaths(laid, output) == 0) {
+        return {};
     }
     const std::string old = laid + ".old";
-    if (rename(output.c_str(), old.c_str()) != 0) {
-        return SystemError(output);
+    if (std::rename(output.c_str(), old.c_str()) != 0) {
+        return Error::System(output);
     }
-    if (rename(laid.c_str(), output.c_str()) != 0) {
-        std::string error = SystemError(output);
-        rename(old.c_str(), output.c_str());
-        return error;
+    if (std::rename(laid.c_str(), output.c_str()) != 0) {
+        Error error = Error::System(output);
+        return std::rename(old.c_str(), output.c_str()) == 0 ? error
+                                                             : Error(error.text() + "; what stood there is " + old);
     }
-    RemoveTree(old);
-    return {};
+    return std::rename(old.c_str(), laid.c_str()) == 0 ? Error() : Error::System(old);
 }
 
 bool IsGoodPlace(const std::string& path) {
@@ -185,95 +96,38 @@ bool IsGoodPlace(const std::string& path) {
            path.find_first_of("\"`$%\\") == std::string::npos;
 }
 
-int ReportDefects(const Findings& findings, bool json) {
-    if (json) {
-        return PrintJson(kCommand, {{QStringLiteral("findings"), ToJson(findings)}}, kExitDefects);
-    }
-    PrintFindings(findings);
-    PrintLine(std::to_string(findings.Total()) + " defects: no bundle was made");
-    return kExitDefects;
-}
-
-int LayBundle(const Options& options, const std::string& info, bool json) {
-    const std::string folder = MakeFolderBeside(options.output);
-    if (folder.empty()) {
-        return Fail(kCommand, json, SystemError(options.output));
-    }
-    Laying laying(options, folder);
-    std::string error = laying.Run(info);
-    Findings findings;
-    if (error.empty() && !IsBuildNumber(laying.versions().build)) {
-        findings.Add(laying.versions().build.empty() ? Code::InfoNoBuild : Code::InfoBuildNoNumber, kInfoEntry,
-                     "\"" + Printable(laying.versions().build) + "\"");
-    }
-    if (error.empty() && findings.IsEmpty() && !IsInterrupted()) {
-        error = PutInPlace(folder, options.output);
-    }
-    RemoveTree(folder);
-    if (!error.empty()) {
-        return Fail(kCommand, json, error);
-    }
-    if (!findings.IsEmpty()) {
-        return ReportDefects(findings, json);
-    }
-    if (IsInterrupted()) {
-        EndInterrupted();
-    }
-    if (json) {
-        return PrintJson(kCommand,
-                         {{QStringLiteral("output"), Q(options.output)},
-                          {QStringLiteral("versions"), ToJson(laying.versions())},
-                          {QStringLiteral("installed_at"), Q(options.installedAt)},
-                          {QStringLiteral("findings"), QJsonArray()}},
-                         kExitGood);
-    }
-    PrintLine(options.output + ": build " + laying.versions().build);
-    return kExitGood;
-}
-
 }  // namespace
 
-int RunBundle(const QStringList& arguments) {
-    CommandLine line(kCommand,
-                     "Lays the bundle that users start: the launcher, the package, INFO as the package has it, icons,\n"
-                     "Info.plist for macOS and a desktop entry for Linux. A bundle that stands there is replaced as a\n"
-                     "whole.",
-                     nullptr, nullptr);
-    line.AddOption("launcher", nullptr, "BIN", "The launcher's binary.");
-    line.AddOption("package", nullptr, "KPK", "The package.");
-    line.AddOption("output", "o", "BUNDLE", "The bundle's folder, KelvaneQuay.app.");
-    line.AddOption("icon", nullptr, "PNG", "The icon of the progress dialog; the product's own without it.");
-    line.AddOption("levels", nullptr, "FILE", "The log's level file; none without it.");
-    line.AddOption("installed-at", nullptr, "FOLDER",
-                   "Where the bundle will lie on users' Linux machines, for its desktop entry; /opt/KelvaneQuay.app\n"
-                   "without it.");
-    if (!line.Parse(arguments, {QStringLiteral("launcher"), QStringLiteral("package"), QStringLiteral("output")})) {
-        return line.exitCode();
+Error RunBundle(const CommandLine& line, Report& report) {
+    umask(022);  // whoever makes the bundle makes it for everyone
+    const std::string output = line.Path("output");
+    const std::string installedAt = line.Value("installed-at", "/opt/KelvaneQuay.app");
+    std::int64_t limit = 0;
+    Package package;
+    Error error = line.Take(report.findings, limit);
+    if (!IsGoodPlace(installedAt)) {
+        error = Error("--installed-at: an absolute path without quotes and the like is wanted");
+    } else if (!MayReplace(output)) {
+        error = Error(output + ": stands there already, and is no bundle");
     }
-    // Whoever makes the bundle makes it for everyone.
-    umask(022);
-    Options options;
-    options.launcher = line.Value("launcher");
-    options.package = line.Value("package");
-    options.icon = line.Value("icon");
-    options.levels = line.Value("levels");
-    options.output = line.Value("output");
-    options.installedAt = line.IsSet("installed-at") ? line.Value("installed-at") : "/opt/KelvaneQuay.app";
-    while (options.output.size() > 1 && options.output.back() == '/') {
-        options.output.pop_back();
+    error = error ? error : CheckPackage(line.Path("package"), limit, package, report.findings);
+    report.Set("output", output);
+    report.Set("installed_at", installedAt);
+    report.Set("versions", ToJson(package.versions));
+    if (!error && report.findings.IsEmpty()) {
+        QTemporaryDir folder(HiddenTemplate(output));
+        const std::string path = folder.path().toStdString();
+        if (!folder.isValid() || chmod(path.c_str(), 0755) != 0) {
+            return Error(output + ": " + folder.errorString().toStdString());
+        }
+        VersionInfo versions;
+        error = Lay(line, installedAt, package, path);
+        error = error ? error : CheckBundle(path, limit, &package, versions, report.findings);
+        if (!error && report.findings.IsEmpty()) {
+            error = IsInterrupted() ? Error("interrupted") : PutInPlace(path, output);
+        }
     }
-    if (!IsGoodPlace(options.installedAt)) {
-        return Fail(kCommand, line.isJson(), "--installed-at: an absolute path without quotes and the like is wanted");
-    }
-    if (!MayReplace(options.output)) {
-        return Fail(kCommand, line.isJson(), options.output + ": stands there already, and is no bundle");
-    }
-    std::string info;
-    std::string error;
-    if (!ReadPackageInfo(options.package, info, error)) {
-        return Fail(kCommand, line.isJson(), error);
-    }
-    Findings findings;
-    CheckParts(options, info, findings);
-    return findings.IsEmpty() ? LayBundle(options, info, line.isJson()) : ReportDefects(findings, line.isJson());
+    report.Sum(report.findings.IsEmpty() ? Printable(output) + ": " + Shown(package.versions)
+                                         : std::to_string(report.findings.Total()) + " defects: no bundle was made");
+    return error;
 }

@@ -3,43 +3,60 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
-#include <utility>
 
 namespace {
 
 constexpr std::int64_t kWidth = 40;
 
-// Where the total is not known, so many steps make a new number.
-constexpr std::int64_t kStep = 1000;
+volatile std::sig_atomic_t taken = 0;
+
+void Take(int number) {
+    taken = number;
+    std::signal(number, SIG_DFL);
+}
 
 }  // namespace
 
-Progress::Progress(std::string label) : label_(std::move(label)), on_(isatty(STDERR_FILENO) == 1) {
+void TakeInterruptions() {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action = {};
+        action.sa_handler = Take;
+        sigemptyset(&action.sa_mask);
+        sigaction(number, &action, nullptr);
+    }
+}
+
+bool IsInterrupted() {
+    return taken != 0;
+}
+
+void EndInterrupted() {
+    std::signal(taken, SIG_DFL);
+    raise(taken);
+    _exit(2);
+}
+
+Progress::Progress(std::string label, std::int64_t total)
+    : label_(std::move(label)), total_(std::max<std::int64_t>(total, 1)), isOn_(isatty(STDERR_FILENO) == 1) {
 }
 
 Progress::~Progress() {
     if (shown_ >= 0) {
         std::fputs("\r\033[K", stderr);
-        std::fflush(stderr);
     }
 }
 
-void Progress::Update(std::int64_t total, std::int64_t current) {
-    if (!on_) {
-        return;
+Error Progress::Advance(std::int64_t amount) {
+    done_ += amount;
+    const std::int64_t now = std::min<std::int64_t>(100, done_ * 100 / total_);
+    if (isOn_ && now != shown_) {
+        shown_ = now;
+        const auto bar = static_cast<std::size_t>(now * kWidth / 100);
+        std::fprintf(stderr, "\r%s [%s%s] %3lld%%", label_.c_str(), std::string(bar, '#').c_str(),
+                     std::string(kWidth - bar, '.').c_str(), static_cast<long long>(now));
+        std::fflush(stderr);
     }
-    const std::int64_t now = total > 0 ? std::min<std::int64_t>(100, current * 100 / total) : current / kStep;
-    if (now == shown_) {
-        return;
-    }
-    shown_ = now;
-    if (total <= 0) {
-        std::fprintf(stderr, "\r%s %lld", label_.c_str(), static_cast<long long>(current));
-    } else {
-        const auto done = static_cast<std::size_t>(now * kWidth / 100);
-        const std::string bar = std::string(done, '#') + std::string(kWidth - done, '.');
-        std::fprintf(stderr, "\r%s [%s] %3lld%%", label_.c_str(), bar.c_str(), static_cast<long long>(now));
-    }
-    std::fflush(stderr);
+    return IsInterrupted() ? Error("interrupted") : Error();
 }

@@ -1,37 +1,15 @@
-// An installation into a folder of its own, by the launcher's own extractor.
+// The launcher's own code, asked what it makes of a bundle.
 #pragma once
 
 #include <string>
 
-#include "archive-check.h"
-#include "finding.h"
+#include "package-check.h"
 
-// A fresh folder below the system's folder for temporary files, removed at the end. One thread.
-class Scratch {
-public:
-    // With `keep` it stays.
-    explicit Scratch(bool keep) : keep_(keep) {}
-    ~Scratch() { Remove(); }
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
+// Unpacks a package that has passed by the launcher's own extractor into a home that is made in `scratch`, and compares
+// what is there with the package. Then asks the launcher's own decision whether a start of `bundle` (or, where that is
+// empty, of what is installed) would install again. Main thread.
+Error Rehearse(const Package& package, const std::string& bundle, const std::string& scratch, Findings& findings);
 
-    // False with errno set.
-    bool Make();
-    void Remove();
-    const std::string& path() const { return path_; }
-
-    // Bytes that are free on its volume.
-    std::int64_t FreeBytes() const;
-
-private:
-    const bool keep_;
-    std::string path_;
-};
-
-// The home that the rehearsal installs into.
-std::string RehearsalHome(const Scratch& scratch);
-
-// Unpacks the package as a start does, and compares what is on disk with the archive, entry by entry. `nodes` are the
-// package's paths. True if the extractor succeeded; what it and the comparison found wrong is added either way. Ends
-// the process, the scratch folder being removed, when it is interrupted.
-bool Rehearse(const std::string& package, Scratch& scratch, NodeTable& nodes, Findings& findings);
+// Whether a start of the launcher in `binaries` would install or upgrade in this home. Fills the path table for the
+// two. The INFO files of both must be regular files or missing: the launcher waits for a FIFO without end. Main thread.
+bool IsUpgradeDue(const std::string& home, const std::string& binaries);

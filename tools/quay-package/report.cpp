@@ -3,132 +3,113 @@
 #include <QJsonDocument>
 #include <cstdio>
 
-#include "names.h"
-
-void Print(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}
-
-void PrintLine(const std::string& text) {
-    Print(text + "\n");
-}
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(Printable(text));
-}
+#include "text.h"
 
 namespace {
 
-// How many of a code's findings were only counted.
-std::size_t NotKept(const Findings& findings, Code code) {
-    const std::size_t count = findings.CountOf(code);
-    return count > Findings::kKeptOfEachCode ? count - Findings::kKeptOfEachCode : 0;
-}
+// Raised when a key changes its meaning or goes.
+constexpr int kSchema = 1;
 
-// Whether the finding at `at` is the last of its code.
-bool IsLastOfCode(const std::vector<Finding>& sorted, std::size_t at) {
-    return at + 1 == sorted.size() || sorted[at + 1].code != sorted[at].code;
+// `front` says what became of the findings; where nothing did, it is said how to mend them.
+void PrintGroups(const std::string& front, const Findings::Groups& groups) {
+    for (const auto& [code, group] : groups) {
+        const Defect& defect = *group.defect;
+        for (const Finding& finding : group.kept) {
+            PrintLine(front + IdOf(defect) + "  " + (finding.entry.empty() ? "" : Printable(finding.entry) + ": ") +
+                      defect.what + (finding.detail.empty() ? "" : " (" + Printable(finding.detail) + ")"));
+        }
+        if (group.total > group.kept.size()) {
+            PrintLine("       and " + std::to_string(group.total - group.kept.size()) + " more of them");
+        }
+        if (front.empty()) {
+            PrintLine(std::string("       why:  ") + defect.why + "\n       mend: " + defect.mend);
+        }
+    }
 }
 
 }  // namespace
 
-void PrintFindings(const Findings& findings) {
-    const std::vector<Finding> sorted = findings.Sorted();
-    for (std::size_t at = 0; at < sorted.size(); ++at) {
-        const Finding& finding = sorted[at];
-        const CodeText& text = TextOf(finding.code);
-        PrintLine(IdOf(finding.code) + "  " + (finding.entry.empty() ? "" : Printable(finding.entry) + ": ") +
-                  text.what + (finding.detail.empty() ? "" : " (" + finding.detail + ")"));
-        if (!IsLastOfCode(sorted, at)) {
-            continue;
+void PrintLine(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::fputc('\n', stdout);
+}
+
+Report::Report(const char* command, const QStringList& keys) : command_(command) {
+    for (const QString& key : keys) {
+        object_.insert(key, QJsonValue());
+    }
+}
+
+void Report::Set(const char* key, const std::string& text) {
+    Set(key, QJsonValue(Q(text)));
+}
+
+void Report::Set(const Package& package) {
+    Set("entries", static_cast<std::int64_t>(package.entries.size()));
+    Set("bytes", package.bytes);
+    Set("package_versions", ToJson(package.versions));
+}
+
+int Report::Finish(const Error& error) {
+    const int exitCode = error ? kExitError : findings.IsEmpty() ? kExitGood : kExitDefects;
+    if (error) {
+        std::fprintf(stderr, "quay-package %s: %s\n", command_, Printable(error.text()).c_str());
+    }
+    if (isJson_) {
+        const char* const results[] = {"good", "defects", "error"};
+        Set("schema", std::int64_t{kSchema});
+        Set("command", std::string(command_));
+        Set("result", std::string(results[exitCode]));
+        Set("error", error ? QJsonValue(Q(error.text())) : QJsonValue());
+        Set("count", static_cast<std::int64_t>(findings.Total()));
+        Set("findings", ToJson(findings.found()));
+        Set("accepted", ToJson(findings.accepted()));
+        PrintLine(QJsonDocument(object_).toJson(QJsonDocument::Indented).trimmed().toStdString());
+    } else if (!error) {
+        for (const std::string& line : lines_) {
+            PrintLine(line);
         }
-        if (const std::size_t more = NotKept(findings, finding.code); more != 0) {
-            PrintLine("       and " + std::to_string(more) + " more of them");
-        }
-        PrintLine(std::string("       why:  ") + text.why);
-        PrintLine(std::string("       mend: ") + text.mend);
-    }
-}
-
-void PrintMended(const Findings& mended) {
-    const std::vector<Finding> sorted = mended.Sorted();
-    for (std::size_t at = 0; at < sorted.size(); ++at) {
-        const Finding& finding = sorted[at];
-        PrintLine("mended " + IdOf(finding.code) + "  " + Printable(finding.entry) + ": " + finding.detail);
-        const std::size_t more = NotKept(mended, finding.code);
-        if (more != 0 && IsLastOfCode(sorted, at)) {
-            PrintLine("       and " + std::to_string(more) + " more of them");
+        PrintGroups("mended ", mended.found());
+        PrintGroups("accepted ", findings.accepted());
+        PrintGroups("", findings.found());
+        if (!sum_.empty()) {
+            PrintLine(sum_);
         }
     }
-}
-
-QJsonArray ToJson(const Findings& findings) {
-    QJsonArray array;
-    for (const Finding& finding : findings.Sorted()) {
-        const CodeText& text = TextOf(finding.code);
-        array.append(QJsonObject{
-            {QStringLiteral("code"), Q(IdOf(finding.code))},
-            {QStringLiteral("entry"), Q(finding.entry)},
-            {QStringLiteral("detail"), QString::fromStdString(finding.detail)},
-            {QStringLiteral("what"), QString::fromUtf8(text.what)},
-            {QStringLiteral("why"), QString::fromUtf8(text.why)},
-            {QStringLiteral("mend"), QString::fromUtf8(text.mend)},
-        });
-    }
-    return array;
-}
-
-QJsonArray MendedToJson(const Findings& mended) {
-    QJsonArray array;
-    for (const Finding& finding : mended.Sorted()) {
-        array.append(QJsonObject{{QStringLiteral("code"), Q(IdOf(finding.code))},
-                                 {QStringLiteral("entry"), Q(finding.entry)},
-                                 {QStringLiteral("detail"), QString::fromStdString(finding.detail)}});
-    }
-    return array;
-}
-
-QJsonObject ToJson(const Versions& versions) {
-    return {
-        {QStringLiteral("major"), Q(versions.majorVersion)},
-        {QStringLiteral("minor"), Q(versions.minorVersion)},
-        {QStringLiteral("build"), Q(versions.build)},
-        {QStringLiteral("icon_overlay"), Q(versions.iconOverlay)},
-    };
-}
-
-int PrintJson(const char* command, QJsonObject object, int exitCode) {
-    object.insert(QStringLiteral("command"), QString::fromUtf8(command));
-    object.insert(QStringLiteral("result"), exitCode == kExitGood      ? QStringLiteral("good")
-                                            : exitCode == kExitDefects ? QStringLiteral("defects")
-                                                                       : QStringLiteral("error"));
-    Print(QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString());
     return exitCode;
 }
 
-std::string SizeText(std::int64_t bytes) {
-    static const char* const units[] = {"bytes", "KiB", "MiB", "GiB", "TiB"};
-    auto value = static_cast<double>(bytes);
-    std::size_t unit = 0;
-    while (value >= 1024 && unit + 1 < std::size(units)) {
-        value /= 1024;
-        ++unit;
-    }
-    char text[32];
-    std::snprintf(text, sizeof(text), unit == 0 ? "%.0f %s" : "%.1f %s", value, units[unit]);
-    return text;
+QJsonObject ToJson(const Defect& defect) {
+    return {{QStringLiteral("code"), Q(IdOf(defect))},
+            {QStringLiteral("what"), QString::fromUtf8(defect.what)},
+            {QStringLiteral("why"), QString::fromUtf8(defect.why)},
+            {QStringLiteral("mend"), QString::fromUtf8(defect.mend)}};
 }
 
-std::string Octal(unsigned mode) {
-    char text[16];
-    std::snprintf(text, sizeof(text), "%04o", mode);
-    return text;
+QJsonArray ToJson(const Findings::Groups& groups) {
+    QJsonArray array;
+    for (const auto& [code, group] : groups) {
+        for (const Finding& finding : group.kept) {
+            QJsonObject object = ToJson(*group.defect);
+            object.insert(QStringLiteral("entry"), Q(finding.entry));
+            object.insert(QStringLiteral("detail"), Q(finding.detail));
+            array.append(object);
+        }
+    }
+    return array;
 }
 
-int Fail(const char* command, bool json, const std::string& message) {
-    std::fprintf(stderr, "quay-package %s: %s\n", command, message.c_str());
-    if (json) {
-        return PrintJson(command, {{QStringLiteral("error"), QString::fromStdString(message)}}, kExitError);
+QJsonObject ToJson(const VersionInfo& versions) {
+    QJsonObject object;
+    for (const VersionKey& key : kVersionKeys) {
+        const std::optional<std::string>& value = versions.*key.field;
+        object.insert(QString::fromLatin1(key.name).remove(QStringLiteral("_version")),
+                      value ? QJsonValue(Q(*value)) : QJsonValue());
     }
-    return kExitError;
+    return object;
+}
+
+std::string Shown(const VersionInfo& versions) {
+    return Printable("version " + versions.majorVersion.value_or("?") + "." + versions.minorVersion.value_or("?") +
+                     ", build " + versions.buildVersion.value_or("unknown"));
 }

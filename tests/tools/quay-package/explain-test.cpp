@@ -43,11 +43,11 @@ protected:
     }
 
     // Explains and checks that nothing has changed, neither in the home nor in the bundle.
-    QJsonObject Explain(const std::set<std::string>& codes) {
+    QJsonObject Explain(const Codes& codes) {
         const auto home = Snapshot(home_);
         const auto bundle = Snapshot(At("bundle"));
         const QJsonObject object = RunJson({"explain", At("bundle"), "--home", home_}, codes.empty() ? 0 : 1);
-        EXPECT_EQ(Codes(object), codes);
+        EXPECT_EQ(CodesOf(object), codes);
         EXPECT_EQ(Snapshot(home_), home);
         EXPECT_EQ(Snapshot(At("bundle")), bundle);
         return object;
@@ -113,6 +113,11 @@ TEST_F(ExplainTest, FindsWhatStandsInTheWay) {
              InstallClient(7);
              Write(Private("ui.pid"), "no syntax\n");
          }},
+        {"KQ804",
+         [this] {
+             fs::create_directories(App() + "/Contents/Resources");
+             ASSERT_EQ(mkfifo((App() + "/Contents/Resources/INFO").c_str(), 0600), 0);
+         }},
         {"KQ502",
          [this] {
              InstallClient(8);
@@ -142,16 +147,34 @@ TEST_F(ExplainTest, AHomeThroughALinkOrNone) {
     MakeBundle(MakePackage(MakeClient("client", 8), 8));
     Write(home_ + "/.Tessaly/data/x", "");
     fs::create_directory_symlink(home_, At("alias"));
-    EXPECT_EQ(Codes(RunJson({"explain", At("bundle"), "--home", At("alias")}, 1)), std::set<std::string>{"KQ805"});
-    EXPECT_EQ(Codes(RunJson({"explain", At("bundle"), "--home", At("none")}, 1)), std::set<std::string>{"KQ801"});
+    EXPECT_EQ(CodesOf(RunJson({"explain", At("bundle"), "--home", At("alias")}, 1)), Codes{"KQ805"});
+    EXPECT_EQ(CodesOf(RunJson({"explain", At("bundle"), "--home", At("none")}, 1)), Codes{"KQ801"});
 }
 
+// By the same rules as `check`, and only where the package is going to be unpacked.
 TEST_F(ExplainTest, ABundleThatCantBeInstalled) {
     MakeBundle(MakePackage(MakeClient("client", 8), 8));
+    const std::string package = At("bundle/Contents/Resources/package/tessaly.kpk");
+    fs::resize_file(package, fs::file_size(package) - 1);
+    Explain({"KQ102"});
+    InstallClient(8);
+    Explain({});
     Write(At("bundle/Contents/Resources/INFO"), "[Version]\nbuild_version=9\n");
-    Explain({"KQ811"});
-    Write(At("bundle/Contents/Resources/package/tessaly.kpk"), "no archive");
-    Explain({"KQ810"});
+    Explain({"KQ102"});
+    fs::remove(package);
+    Explain({"KQ602"});
+    fs::remove(At("bundle/Contents/Resources/INFO"));
+    ASSERT_EQ(mkfifo(At("bundle/Contents/Resources/INFO").c_str(), 0644), 0);
+    Explain({"KQ804"});
+}
+
+// What the next upgrade replaces is no finding.
+TEST_F(ExplainTest, TheOldCopyMayBeAsItIs) {
+    MakeBundle(MakePackage(MakeClient("client", 8), 8));
+    InstallClient(7);
+    fs::permissions(App() + "/Contents/MacOS/cloud-quay-ui", fs::perms(0644));
+    fs::create_symlink("/nowhere", App() + "/Contents/MacOS/l");
+    Explain({});
 }
 
 TEST_F(ExplainTest, TooLittleSpaceAndNoRight) {
@@ -159,7 +182,7 @@ TEST_F(ExplainTest, TooLittleSpaceAndNoRight) {
     Volume volume(Volume::Tmpfs, At("volume"), 64 << 10);
     KQ_NEED(volume);
     const QJsonObject object = RunJson({"explain", At("bundle"), "--home", At("volume")}, 1);
-    EXPECT_EQ(Codes(object), std::set<std::string>{"KQ803"});
+    EXPECT_EQ(CodesOf(object), Codes{"KQ803"});
     const QJsonObject space = object.value(QStringLiteral("space")).toObject();
     EXPECT_GT(space.value(QStringLiteral("needed")).toDouble(), space.value(QStringLiteral("free")).toDouble());
 }
@@ -172,4 +195,48 @@ TEST_F(ExplainTest, NoRightToWrite) {
     fs::copy_file(tool_, At("quay-package"));
     tool_ = At("quay-package");
     AsOrdinaryUser([this] { Explain({"KQ802"}); });
+}
+
+// The private copy is what the package holds, or each difference is named.
+TEST_F(ExplainTest, VerifyFindsEachDifference) {
+    MakeBundle(MakePackage(MakeClient("client", 8), 8));
+    const auto verify = [this](const Codes& codes) {
+        const auto before = fs::exists(home_) ? Snapshot(home_) : std::map<std::string, std::string>();
+        const QJsonObject object = RunJson({"verify", "--home", home_, At("bundle")}, codes.empty() ? 0 : 1);
+        EXPECT_EQ(CodesOf(object), codes);
+        EXPECT_EQ(Snapshot(home_), before);
+    };
+    verify({"KQ901"});
+    const struct {
+        Codes codes;
+        std::function<void(const std::string& contents)> change;
+    } changes[] = {
+        {{}, [](const std::string& /*contents*/) {}},
+        {{}, [](const std::string& c) { fs::permissions(c + "/Resources/large", fs::perms(0600)); }},
+        {{"KQ901"}, [](const std::string& c) { fs::remove(c + "/Resources/large"); }},
+        {{"KQ901"}, [](const std::string& c) { fs::remove_all(c + "/Resources"); }},
+        {{"KQ902"}, [this](const std::string& c) { Write(c + "/Resources/only-in-8", "9"); }},
+        {{"KQ902"}, [this](const std::string& c) { Write(c + "/Resources/only-in-8", "88"); }},
+        {{"KQ902"},
+         [](const std::string& c) {
+             fs::remove(c + "/Resources/large"), mkfifo((c + "/Resources/large").c_str(), 0644);
+         }},
+        {{"KQ902"},
+         [](const std::string& c) {
+             fs::remove(c + "/Resources/current"), fs::create_symlink("large", c + "/Resources/current");
+         }},
+        {{"KQ901", "KQ902", "KQ903"},
+         [](const std::string& c) { fs::rename(c + "/MacOS", c + "/M"), fs::create_symlink("M", c + "/MacOS"); }},
+        {{"KQ903"}, [this](const std::string& c) { Write(c + "/Resources/empty/more", ""); }},
+        {{"KQ904"}, [](const std::string& c) { fs::permissions(c + "/MacOS/cloud-quay-ui", fs::perms(0644)); }},
+        {{"KQ904"}, [](const std::string& c) { fs::permissions(c + "/Resources/large", fs::perms(0666)); }},
+    };
+    for (const auto& change : changes) {
+        SCOPED_TRACE(&change - changes);
+        fs::remove_all(home_);
+        fs::create_directory(home_);
+        InstallClient(8);
+        change.change(App() + "/Contents");
+        verify(change.codes);
+    }
 }

@@ -1,6 +1,5 @@
 #include "launcher.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
@@ -23,9 +22,6 @@ constexpr char kComponent[] = "launcher_debug";
 // The size of the dialog on an unscaled screen.
 constexpr double kDialogWidth = 400.0;
 constexpr double kDialogHeight = 80.0;
-
-// How long the main thread leaves signals waiting during an upgrade.
-constexpr unsigned long kPauseMilliseconds = 4;
 
 // Colours that can be read on the style sheet's WhiteSmoke: black text on light ground, and a bar that is dark enough
 // for white text.
@@ -91,8 +87,8 @@ void Worker::QuitThread() {
     thread->quit();
 }
 
-void Worker::JoinThread(unsigned long milliseconds) {
-    thread->wait(milliseconds);
+void Worker::JoinThread() {
+    thread->wait(ULONG_MAX);
 }
 
 bool Worker::IsThreadRunning() const {
@@ -173,10 +169,6 @@ void Launcher::SetLabelText(const QString& text) {
 }
 
 void Launcher::ShowMsgBox() {
-    // Each entry of a package sends a signal, and to wake this thread for each would cost more than the signal itself:
-    // it looks 250 times a second at most, which nobody sees.
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
-            [this] { worker->JoinThread(kPauseMilliseconds); });
     progressDialog->show();
 }
 
@@ -184,6 +176,6 @@ void Launcher::LaunchDone() {
     progressDialog->setValue(100);
     progressDialog->hide();
     worker->QuitThread();
-    worker->JoinThread(ULONG_MAX);
+    worker->JoinThread();
     QCoreApplication::quit();
 }

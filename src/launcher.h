@@ -39,10 +39,10 @@ public:
     Worker();
     ~Worker() override;
 
-    // Main thread. JoinThread waits for the thread's end, or so long; ULONG_MAX is no limit.
+    // Main thread. JoinThread waits without a limit.
     void StartThread();
     void QuitThread();
-    void JoinThread(unsigned long milliseconds);
+    void JoinThread();
 
     // Whether the handler thread runs: it does not where the system gave none. Main thread.
     bool IsThreadRunning() const;

@@ -10,43 +10,28 @@
 
 namespace {
 
-class WorkTest : public FolderTest {
-protected:
-    WorkTest() {
-        StrTable::InitStrTable();
-        FillPathTable(QString::fromStdString(At("home")), QString::fromStdString(At("bundle/Contents/MacOS")));
-    }
-};
+using LauncherTest = FolderTest;
 
-TEST_F(WorkTest, IsDoneOnceInWhateverOrder) {
-    void (*const orders[])(Launcher&) = {[](Launcher& launcher) {
-                                             launcher.Run();
-                                             launcher.Start();
-                                         },
-                                         [](Launcher& launcher) {
-                                             launcher.Start();
-                                             QCoreApplication::processEvents();
-                                             launcher.Run();
-                                         }};
-    for (const auto run : orders) {
-        const std::string log = StandardErrorOf([run] {
+TEST_F(LauncherTest, WorkIsDoneOnceInWhateverOrder) {
+    StrTable::InitStrTable();
+    FillPathTable(QString::fromStdString(At("home")), QString::fromStdString(At("bundle/Contents/MacOS")));
+    for (const bool runsFirst : {true, false}) {
+        const std::string log = StandardErrorOf([&] {
             Launcher launcher;
-            run(launcher);
+            runsFirst ? launcher.Run() : launcher.Start();
+            runsFirst ? void() : QCoreApplication::processEvents();
+            runsFirst ? launcher.Start() : launcher.Run();
             QApplication::exec();
             QCoreApplication::processEvents();
+            // The product wraps in 32 bits.
+            launcher.UpdateProgress(1, 42949673);
+            const auto windows = QApplication::topLevelWidgets();
+            EXPECT_EQ(windows.first()->findChild<QProgressBar*>()->value(), 4);
         });
         // The bundle has no package: each time the work is done, one line tells of the failed upgrade.
         const std::string line = "Failed to upgrade package\n";
         EXPECT_NE(log.find(line), std::string::npos) << log;
         EXPECT_EQ(log.find(line), log.rfind(line)) << log;
-    }
-}
-
-TEST_F(WorkTest, ProgressWrapsIn32Bits) {
-    Launcher launcher;
-    launcher.UpdateProgress(1, 42949673);
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        EXPECT_EQ(widget->findChild<QProgressBar*>()->value(), 4);
     }
 }
 

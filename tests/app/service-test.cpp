@@ -19,27 +19,22 @@ TEST_F(ServiceTest, CopiesATree) {
     fs::create_symlink("script", At("from/link"));
     EXPECT_EQ(service.FSCopyPath(At("from"), At("new/to")), 0);
     // The content alone is copied: modes are those of new files, and links are followed.
-    const Tree expected = {{"deep", "755 folder"},  {"deep/er", "755 folder"}, {"deep/er/file", "644 file bytes"},
-                           {"empty", "755 folder"}, {"link", "644 file #!"},   {"script", "644 file #!"}};
-    EXPECT_EQ(ReadTree(At("new/to")), expected);
+    const Tree copied = {{"deep", "755 folder"},  {"deep/er", "755 folder"}, {"deep/er/file", "644 file bytes"},
+                         {"empty", "755 folder"}, {"link", "644 file #!"},   {"script", "644 file #!"}};
+    EXPECT_EQ(ReadTree(At("new/to")), copied);
 
     fs::create_symlink("nowhere", At("from/deep/dangling"));
-    const struct {
-        std::string from;
-        std::string to;
-        int result;
-        std::string log;
-    } cases[] = {
+    const std::tuple<std::string, std::string, int, std::string> cases[] = {
         {At("from/script"), At("copy"), 0, ""},
         {At("from/script"), At("no/folder"), 0, "open(" + At("no/folder") + ")"},  // a single file's failure is dropped
         {At("absent"), At("x"), -1, "FSCopyPath: source path '" + At("absent") + "' does not exist\n"},
         {"", At("x"), -1, "FSCopyPath: failed to stat source ''\n"},
         {At("from"), At("copy"), -1, "FSCopyPath: failed to create dest folder '" + At("copy") + "'\n"},
-        {At("from"), At("to"), -1, "FSCopyPath: failed to copy from '" + At("from/deep/dangling") + "' to '"},
-    };
-    for (const auto& one : cases) {
-        const std::string log = StandardErrorOf([&] { EXPECT_EQ(service.FSCopyPath(one.from, one.to), one.result); });
-        EXPECT_NE(log.find(one.log), std::string::npos) << log;
+        {At("from"), At("to"), -1, "FSCopyPath: failed to copy from '" + At("from/deep/dangling") + "' to '"}};
+    for (const auto& [from, to, result, expected] : cases) {
+        const std::string log = StandardErrorOf(
+            [&, &one = from, &other = to, expects = result] { EXPECT_EQ(service.FSCopyPath(one, other), expects); });
+        EXPECT_NE(log.find(expected), std::string::npos) << log;
     }
     EXPECT_EQ(Read(At("copy")), "#!");
 }

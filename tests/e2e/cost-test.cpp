@@ -11,12 +11,6 @@ protected:
         environment_.erase("TZ");  // which would spare the looks at the system's zone
     }
 
-    void SetUp() override {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-        GTEST_SKIP() << "a sanitizer makes calls of its own";
-#endif
-    }
-
     // What strace, with these options, writes of a start.
     std::string TraceOf(const Lines& options, int build) {
         ExpectLaunched(Launch(Traced(options)), build);
@@ -43,6 +37,7 @@ protected:
 };
 
 TEST_F(CostTest, CallsForEachEntryOfAnUpgrade) {
+    KQ_NEED(Ability::OwnCalls);
     constexpr int kMore = 400;
     const long few = CallsOfAnUpgrade(1000, 0);
     const double each = static_cast<double>(CallsOfAnUpgrade(2000, kMore) - few) / kMore;
@@ -51,6 +46,7 @@ TEST_F(CostTest, CallsForEachEntryOfAnUpgrade) {
 }
 
 TEST_F(CostTest, LooksAtTheHomeByAStartWithNothingToDo) {
+    KQ_NEED(Ability::OwnCalls);
     InstallClient(1000);
     LayBundle(1000);
     ExpectLaunched(Launch(), 1000);

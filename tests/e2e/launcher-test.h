@@ -16,38 +16,31 @@ class LauncherTest : public FolderTest {
 protected:
     LauncherTest();
 
-    // Lays the bundle: the launcher's binary, INFO with this build, and a package of the client of the same build.
+    // Lays the bundle: the launcher's binary, INFO with this build, and a package of the client of the same build; and
+    // a level file that has everything logged.
     void LayBundle(int build);
-
-    // The entries of a client of a build: what the package layout asks for, links, folders and odd names included, with
-    // INFO last and the binary the one before; and what they look like once they are installed.
-    static std::vector<PackageEntry> ClientEntries(int build);
-    Tree ClientTree(int build) const;
-
-    // Installs a client as an earlier run would have left it.
-    void InstallClient(int build) const;
-
-    // Puts a level file into the bundle that has everything logged.
     void LogEverything() const;
+
+    // The entries of a client: links, folders and odd names included, INFO last and the binary the one before.
+    static std::vector<PackageEntry> ClientEntries(int build);
+    // What they look like once they are installed; installs them as an earlier run would have left them; the private
+    // folder's tree with them in it and what else is named.
+    Tree ClientTree(int build) const;
+    void InstallClient(int build) const;
+    Tree HomeWith(int build, Tree others = {}) const;
 
     // Starts the launcher, with a program in front that is to start it, and waits for its end.
     Lines Arguments(Lines prefix = {}) const;
     Outcome Launch(const Lines& prefix = {}) const { return RunProcess(Arguments(prefix), environment_); }
-
-    // The prefix for a user who is not root, to whom these folders are given.
+    // Such prefixes: to be a user who is not root and is given these folders; to have all threads followed by strace
+    // with these arguments, what it traces in the file "trace".
     static Lines AsNobody(const Lines& folders);
-
-    // The prefix for strace with these arguments, all threads followed, what it traces in the file "trace".
     Lines Traced(const Lines& arguments) const;
 
-    // What the client says when it has been started: "started BUILD in WORKINGFOLDER, zone TZ".
+    // What the client says when it has been started.
     std::string StartedLine(int build) const;
-
     // Checks a good run: exit code 0, nothing on the standard streams, and the client of this build started.
     void ExpectLaunched(const Outcome& outcome, int build);
-
-    // Checks that this client lies in the private folder, and no more than it and what else is named.
-    void ExpectInstalled(int build, const Tree& others = {}) const;
 
     // The text part of each line of the log, without time, ids, file and line: "[ERROR] failed to ...".
     Lines LogLines() const;
@@ -55,7 +48,6 @@ protected:
     std::string Private(const std::string& name) const { return home_ + "/.KelvaneQuay/" + name; }
     std::string App() const { return Private("KelvaneQuay.app"); }
     std::string Package() const { return bundle_ + "/Contents/Resources/package/tessaly.kpk"; }
-
     // The tree of the private folder without the log.
     Tree PrivateTree() const;
 

@@ -13,13 +13,13 @@ protected:
     void WritePid(pid_t process) const { Write(Private("ui.pid"), "pid=" + std::to_string(process) + "\n"); }
 
     // What was traced of the signals to a process and of the seconds in between, in order.
-    Lines TracedSignals(pid_t process) const {
+    std::string TracedSignals(pid_t process) const {
         const std::regex call("kill\\(" + std::to_string(process) +
                               ", (\\w+)|clock_nanosleep\\(\\w+, 0, \\{tv_sec=(\\d+)");
-        Lines seen;
+        std::string seen;
         const std::string text = Read(At("trace"));
         for (std::sregex_iterator match(text.begin(), text.end(), call), end; match != end; ++match) {
-            seen.push_back(match->str(1) + match->str(2));
+            seen += match->format("$1$2 ");
         }
         return seen;
     }
@@ -37,7 +37,7 @@ TEST_F(ProcessTest, ARunningClientIsStoppedForAnUpgradeAlone) {
     ExpectLaunched(Launch(), 2000);
     EXPECT_EQ(prompt.AwaitEnd(), 128 + SIGTERM);
     // The pid file is the client's: the launcher reads it and leaves it.
-    ExpectInstalled(2000, {{"ui.pid", "644 file pid=" + std::to_string(prompt.id()) + "\n"}});
+    EXPECT_EQ(PrivateTree(), HomeWith(2000, {{"ui.pid", "644 file pid=" + std::to_string(prompt.id()) + "\n"}}));
 
     FakeClient slow(manners::kSlow);
     WritePid(slow.id());
@@ -51,11 +51,6 @@ TEST_F(ProcessTest, ARunningClientIsStoppedForAnUpgradeAlone) {
 TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
     KQ_NEED(Ability::Tracing);
     KQ_NEED(Ability::Root);
-    Lines expected = {"SIGTERM"};
-    for (int probe = 0; probe < 15; ++probe) {
-        expected.insert(expected.end(), {"0", "1"});
-    }
-    expected.emplace_back("SIGKILL");
     const Lines traced = Traced({"-e", "trace=kill,clock_nanosleep", "-e", "inject=clock_nanosleep:retval=0"});
     for (const char* manner : {manners::kDeaf, manners::kZombie, manners::kPrompt}) {
         SCOPED_TRACE(manner);
@@ -69,7 +64,8 @@ TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
         Lines prefix = isOthers ? AsNobody({home_, At("run"), folder(), At("trace")}) : Lines();
         prefix.insert(prefix.end(), traced.begin(), traced.end());
         ExpectLaunched(Launch(prefix), 2000);
-        EXPECT_EQ(TracedSignals(client.id()), expected);
+        EXPECT_EQ(TracedSignals(client.id()),
+                  "SIGTERM 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 0 1 SIGKILL ");
         EXPECT_EQ(LogLines(), isOthers ? Lines{"[ERROR] kill: Operation not permitted (1)"} : Lines());
         if (manner == manners::kDeaf) {
             // Killed without a pause, it may not come to say that it heard.
@@ -83,40 +79,31 @@ TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
 
 TEST_F(ProcessTest, PidFilesThatNameNobody) {
     const pid_t ended = FakeClient(manners::kPrompt).id();
-    const struct {
-        const char* about;
-        std::string text;
-        bool unreadable;
-    } cases[] = {
-        {"stale", "pid=" + std::to_string(ended) + "\n", false},
-        {"stale among other keys", "# client\nport = 1\npid = \"" + std::to_string(ended) + "\"\n", false},
-        {"empty file", "", true},
-        {"no such key", "process=1\n", true},
-        {"empty value", "pid=\"\"\n", true},
-        {"value missing", "pid=\n", true},
-        {"another line malformed", "pid=" + std::to_string(getpid()) + "\nwhat is this\n", true},
-        {"binary", std::string("\0\1\2\xFF", 4) + "\n", true},
-        {"a folder", "", true},
-        {"a FIFO, which keeps nobody waiting", "", true},
-    };
+    // What the file holds, and whether nobody can be read in it.
+    const std::string file = Private("ui.pid");
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[&] { WritePid(ended); }, false},
+        {[&] { Write(file, "# client\nport = 1\npid = \"" + std::to_string(ended) + "\"\n"); }, false},
+        {[&] { Write(file, ""); }, true},
+        {[&] { Write(file, "process=1\n"); }, true},
+        {[&] { Write(file, "pid=\"\"\n"); }, true},
+        {[&] { Write(file, "pid=\n"); }, true},
+        {[&] { Write(file, "pid=" + std::to_string(getpid()) + "\nwhat is this\n"); }, true},
+        {[&] { Write(file, std::string("\0\1\2\xFF", 4) + "\n"); }, true},
+        {[&] { fs::create_directory(file); }, true},
+        {[&] { EXPECT_EQ(mkfifo(file.c_str(), 0600), 0); }, true}};  // which keeps nobody waiting
     int build = 1000;
     InstallClient(build);
     LogEverything();
-    const std::string note = "[NOTE] Failed to read pid file '" + Private("ui.pid") + "', not exist ?";
-    for (const auto& entry : cases) {
-        SCOPED_TRACE(entry.about);
+    const std::string note = "[NOTE] Failed to read pid file '" + file + "', not exist ?";
+    for (const auto& [lay, isUnreadable] : cases) {
         LayBundle(++build);
-        fs::remove_all(Private("ui.pid"));
+        fs::remove_all(file);
         fs::remove_all(Private("log"));
-        if (entry.about[0] != 'a' || entry.about[1] != ' ') {
-            Write(Private("ui.pid"), entry.text);
-        } else {
-            const std::string path = Private("ui.pid");
-            EXPECT_TRUE(entry.about[2] == 'f' ? fs::create_directory(path) : mkfifo(path.c_str(), 0600) == 0);
-        }
+        lay();
         ExpectLaunched(Launch(), build);
         const Lines lines = LogLines();
-        EXPECT_EQ(std::count(lines.begin(), lines.end(), note), entry.unreadable ? 1 : 0);
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), note), isUnreadable ? 1 : 0) << build;
     }
 }
 
@@ -134,9 +121,7 @@ TEST_F(ProcessTest, ASecondStartLeavesAtOnceAndAKilledFirstOneDoesNotBlock) {
         WritePid(client.id());
         Process first(Arguments(), environment_);
         EXPECT_EQ(client.ReadLine(), "term");  // the first launcher is now busy waiting for the client
-        const Outcome second = Launch();
-        EXPECT_EQ(second.exitCode, 0);
-        EXPECT_EQ(second.output + second.errors, "");
+        EXPECT_EQ(Launch().errors, "");
         EXPECT_EQ(LogLines().back(), "[DEBUG] app has already launched, return");
 
         // Another home is another matter. It is also the first to have started a client.
@@ -144,11 +129,10 @@ TEST_F(ProcessTest, ASecondStartLeavesAtOnceAndAKilledFirstOneDoesNotBlock) {
         home_ = environment_["HOME"] = At("other home " + std::to_string(hasFolder));
         ExpectLaunched(Launch(), 2000);
         home_ = environment_["HOME"] = home;
-
         first.Signal(SIGKILL);
-        EXPECT_EQ(first.Wait().signal, SIGKILL);
+        first.Wait();
         kill(client.id(), SIGKILL);
-        EXPECT_EQ(client.AwaitEnd(), 128 + SIGKILL);
+        client.AwaitEnd();
         ExpectLaunched(Launch(), 2000);
     }
 }
@@ -160,29 +144,20 @@ TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
     ExpectLaunched(Launch(), 1000);
     ASSERT_EQ(std::distance(fs::directory_iterator(At("run")), fs::directory_iterator()), 1);
     const std::string lock = fs::directory_iterator(At("run"))->path().string();
-    const struct {
-        const char* about;
-        std::function<void()> lay;
-    } cases[] = {
-        {"text of an earlier process", [&] { Write(lock, "1\nkelvane-quay-launcher\nhere\n"); }},
-        {"a folder", [&] { fs::create_directory(lock); }},
-        {"a dangling link", [&] { fs::create_symlink("nowhere", lock); }},
-        {"a link in a circle", [&] { fs::create_symlink(lock, lock); }},
-        {"a FIFO", [&] { EXPECT_EQ(mkfifo(lock.c_str(), 0600), 0); }},
-        {"a file that can't be read",
-         [&] {
-             Write(lock, "");
-             fs::permissions(lock, fs::perms::none);
-         }},
-    };
+    // Text of an earlier process, no file, a file that can't be read.
+    const std::function<void()> cases[] = {[&] { Write(lock, "1\nkelvane-quay-launcher\nhere\n"); },
+                                           [&] { fs::create_directory(lock); },
+                                           [&] { fs::create_symlink(lock, lock); },
+                                           [&] { fs::create_symlink("nowhere", lock); },
+                                           [&] { EXPECT_EQ(mkfifo(lock.c_str(), 0600), 0); },
+                                           [&] { EXPECT_EQ(mknod(lock.c_str(), S_IFREG, 0), 0); }};
     int build = 1000;
-    for (const auto& entry : cases) {
-        SCOPED_TRACE(entry.about);
+    for (const auto& lay : cases) {
         fs::remove(lock);
-        entry.lay();
+        lay();
         LayBundle(++build);
         ExpectLaunched(Launch(), build);
-        EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(lock)));
+        EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(lock))) << build;
     }
     EXPECT_TRUE(fs::is_empty(At("tmp")));
     // A folder that others can write is no place for a lock: one of our own is made.
@@ -195,99 +170,66 @@ TEST_F(ProcessTest, WhateverLiesInTheLocksPlaceBlocksNobody) {
 }
 
 // Ends the launcher at the n-th call of a kind that changes its folders, or lets that call fail, for n from 1 until a
-// run has fewer such calls. Afterwards the home must hold a client that is whole or that the next start
-// completes, and nothing else must be lost.
-struct Interruption {
-    const char* name;
-    bool isMigration;                 // or else an upgrade
-    std::vector<const char*> faults;  // in turn
-};
-void PrintTo(const Interruption& interruption, std::ostream* out) {
-    *out << interruption.name;
-}
+// run has fewer such calls. Afterwards the home must hold a client that is whole or that the next start completes, and
+// nothing else must be lost. The faults take turns.
+using Interruption = std::tuple<const char*, std::vector<std::string>>;
 
 class InterruptionTest : public ProcessTest, public ::testing::WithParamInterface<Interruption> {
 protected:
-    static std::vector<PackageEntry> SmallEntries(int build) {
-        std::vector<PackageEntry> entries = ClientEntries(build);
-        entries.erase(entries.begin() + 4, entries.begin() + 7);
-        return entries;
-    }
-
-    // A home as it is before the run, and a bundle.
-    void Lay() {
-        fs::remove_all(home_);
-        if (GetParam().isMigration) {
-            Write(home_ + "/.Tessaly/data/db/notes", "precious");
-            Write(home_ + "/.Tessaly/Tessaly.app/x", "");
-            return;
-        }
-        Write(Private("data/db/notes"), "precious");
-        for (const PackageEntry& entry : SmallEntries(1000)) {
-            const std::string path = App() + "/" + entry.path;
-            entry.type == S_IFDIR ? static_cast<void>(fs::create_directories(path)) : Write(path, entry.content);
-        }
-        fs::permissions(App() + "/Contents/MacOS/cloud-quay-ui", static_cast<fs::perms>(0755));
-    }
-
     // Runs the launcher with a fault at a call on what a run may change. Whether it came to that call.
     bool Interrupt(const std::string& call, const std::string& fault) {
         Lines arguments = {"-e", "trace=" + call, "-e", "inject=" + call + ":" + fault};
-        const auto watch = [&](const std::string& path) { arguments.insert(arguments.end(), {"-P", path}); };
-        for (const std::string& base : {App(), App() + "_tmp"}) {
-            watch(base);
-            for (const int build : {1000, 2000}) {
-                for (const PackageEntry& entry : SmallEntries(build)) {
-                    const std::string path = base + "/" + entry.path;
-                    watch(entry.type == S_IFDIR ? path.substr(0, path.size() - 1) : path);
-                }
+        Tree changed = {
+            {".KelvaneQuay/log", ""}, {".KelvaneQuay/log/launcher.log", ""}, {".KelvaneQuay/KelvaneQuay.app", ""}};
+        changed.merge(ReadTree(home_));
+        for (const auto& [path, description] : ClientTree(2000)) {
+            changed[".KelvaneQuay/KelvaneQuay.app/" + path] = "";
+        }
+        for (const auto& [path, description] : changed) {
+            arguments.insert(arguments.end(), {"-P", home_ + "/" + path});
+            if (const std::size_t app = path.find(".app"); app != std::string::npos) {
+                arguments.insert(arguments.end(),
+                                 {"-P", home_ + "/" + path.substr(0, app + 4) + "_tmp" + path.substr(app + 4)});
             }
         }
-        for (const char* path : {"", "/data", "/log", "/log/launcher.log"}) {
-            watch(home_ + "/.KelvaneQuay" + path);
-        }
-        for (const char* path : {"", "/data", "/Tessaly.app", "/Tessaly.app/x"}) {
-            watch(home_ + "/.Tessaly" + path);
-        }
         // A client that a killed run has started must not be taken for the next one's.
-        const bool isKill = fault.rfind("signal", 0) == 0;
         Environment environment = environment_;
-        environment["KQ_TEST_MAILBOX"] = At(isKill ? "lost" : "mailbox");
+        environment["KQ_TEST_MAILBOX"] = At(fault[0] == 's' ? "lost" : "mailbox");
         const Outcome outcome = RunProcess(Arguments(Traced(arguments)), environment);
-        if (isKill && outcome.signal == SIGKILL) {
-            return true;
-        }
-        EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
-        return Read(At("trace")).find("INJECTED") != std::string::npos;
+        EXPECT_TRUE(outcome.exitCode == 0 || outcome.signal == SIGKILL) << outcome.errors;
+        return outcome.signal == SIGKILL || Read(At("trace")).find("INJECTED") != std::string::npos;
     }
 };
 
 TEST_P(InterruptionTest, TheNextStartCompletesTheWork) {
     KQ_NEED(Ability::Tracing);
+    const auto& [name, faults] = GetParam();
     LayBundle(2000);
-    WritePackage(Package(), SmallEntries(2000));
-    Lay();
-    const Tree old = Below(PrivateTree(), "KelvaneQuay.app");
-    ExpectLaunched(Launch(), 2000);
-    const Tree good = Below(PrivateTree(), "KelvaneQuay.app");
     int hits = 0;
     for (const std::string call : {"openat", "write", "mkdir", "rename", "unlink", "rmdir", "symlink"}) {
         // Of the opened files the first is spared: the client's shell reads its script as its own first.
         bool wasHit = true;
         for (int at = call == "openat" ? 2 : 1; wasHit; ++at) {
-            const std::string fault = GetParam().faults[static_cast<std::size_t>(at) % GetParam().faults.size()];
+            const std::string fault = faults[static_cast<std::size_t>(at) % faults.size()];
             SCOPED_TRACE(fault + " at " + call + " " + std::to_string(at));
-            Lay();
+            fs::remove_all(home_);
+            if (name[0] == 'M') {
+                Write(home_ + "/.Tessaly/data/notes", "precious");
+                Write(home_ + "/.Tessaly/Tessaly.app/x", "");
+            } else {
+                InstallClient(1000);
+                Write(Private("data/notes"), "precious");
+            }
             wasHit = Interrupt(call, fault + ":when=" + std::to_string(at));
             hits += wasHit ? 1 : 0;
-            if (fault != "signal=KILL") {
-                const bool isOld = Below(PrivateTree(), "KelvaneQuay.app") == old;
-                EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), isOld ? old : good);
-                EXPECT_EQ(mailbox_.ReadLine(), StartedLine(isOld ? 1000 : 2000));
+            if (fault[0] == 'e') {
+                const int whole = ReadTree(App()) == ClientTree(1000) ? 1000 : 2000;
+                EXPECT_EQ(ReadTree(App()), ClientTree(whole));
+                EXPECT_EQ(mailbox_.ReadLine(), StartedLine(whole));
             }
             ExpectLaunched(Launch(), 2000);
-            EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), good);
-            EXPECT_EQ(Read(Private("data/db/notes")), "precious");
+            EXPECT_EQ(ReadTree(App()), ClientTree(2000));
+            EXPECT_EQ(Read(Private("data/notes")), "precious");
             ASSERT_FALSE(HasFailure());
         }
     }
@@ -295,10 +237,9 @@ TEST_P(InterruptionTest, TheNextStartCompletesTheWork) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OfA, InterruptionTest,
-                         ::testing::Values(Interruption{"KilledUpgrade", false, {"signal=KILL"}},
-                                           Interruption{"KilledMigration", true, {"signal=KILL"}},
-                                           Interruption{
-                                               "FailingUpgrade", false, {"error=ENOSPC", "error=EIO", "error=EACCES"}}),
-                         [](const auto& test) { return test.param.name; });
+                         ::testing::Values(Interruption{"Upgrade", {"signal=KILL"}},
+                                           Interruption{"Migration", {"signal=KILL"}},
+                                           Interruption{"Failing", {"error=ENOSPC", "error=EIO", "error=EACCES"}}),
+                         [](const auto& test) { return std::get<0>(test.param); });
 
 }  // namespace

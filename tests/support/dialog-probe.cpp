@@ -16,19 +16,19 @@
 
 namespace {
 
+// Title, label and value.
 QStringList AsScreenReader(QWidget* dialog) {
     QAccessibleInterface* window = QAccessible::queryAccessibleInterface(dialog);
-    QString label;
-    QString value;
+    QStringList heard = {window->text(QAccessible::Name), QString(), QString()};
     for (int at = 0; at < window->childCount(); ++at) {
         QAccessibleInterface* part = window->child(at);
         if (part->role() == QAccessible::StaticText) {
-            label = part->text(QAccessible::Name);
-        } else if (part->role() == QAccessible::ProgressBar && part->valueInterface() != nullptr) {
-            value = part->valueInterface()->currentValue().toString();
+            heard[1] = part->text(QAccessible::Name);
+        } else if (part->role() == QAccessible::ProgressBar) {
+            heard[2] = part->valueInterface()->currentValue().toString();
         }
     }
-    return {window->text(QAccessible::Name), label, value};
+    return heard;
 }
 
 class DialogProbe : public QObject {
@@ -44,20 +44,18 @@ public:
         const QSize pixels = dialog->size() * dialog->devicePixelRatioF();
         const QSize room = dialog->maximumSize() - dialog->minimumSize();
         const auto rest = static_cast<int>(dialog->windowFlags() & ~Qt::WindowType_Mask);
-        Write({isShown ? QStringLiteral("show") : QStringLiteral("hide"), dialog->windowTitle(), dialog->labelText(),
-               QString::number(dialog->value()), dialog->font().family(), QString::number(dialog->font().pointSize()),
-               QStringLiteral("%1x%2+%3x%4")
-                   .arg(pixels.width())
-                   .arg(pixels.height())
-                   .arg(room.width())
-                   .arg(room.height()),
-               QString::number(rest, 16), QString::number(dialog->isModal()),
-               QString::number(dialog->findChildren<QPushButton*>().size())},
+        const auto number = [](int value) { return QString::number(value); };
+        Write(QStringList{isShown ? QStringLiteral("show") : QStringLiteral("hide"), dialog->windowTitle(),
+                          dialog->labelText(), number(dialog->value()), dialog->font().family(),
+                          number(dialog->font().pointSize()) + number(dialog->font().italic()),
+                          number(pixels.width()) + QLatin1Char('x') + number(pixels.height()),
+                          number(room.width() + room.height()), QString::number(rest, 16), number(dialog->isModal()),
+                          number(dialog->findChildren<QPushButton*>().size())} +
               AsScreenReader(dialog));
         auto* bar = dialog->findChild<QProgressBar*>();
         disconnect(bar, nullptr, this, nullptr);
         if (isShown) {
-            connect(bar, &QProgressBar::valueChanged, this, [](int value) { Write({QString::number(value)}, {}); });
+            connect(bar, &QProgressBar::valueChanged, this, [](int value) { Write({QString::number(value)}); });
             if (qEnvironmentVariableIsSet("KQ_PROBE_KEYS")) {
                 QCoreApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
                 QMetaObject::invokeMethod(dialog, "close", Qt::QueuedConnection);
@@ -67,10 +65,10 @@ public:
     }
 
 private:
-    static void Write(const QStringList& seen, const QStringList& heard) {
+    static void Write(const QStringList& line) {
         QFile file(qEnvironmentVariable("KQ_PROBE_FILE"));
         if (file.open(QIODevice::Append)) {
-            file.write((seen + heard).join(QLatin1Char('|')).toUtf8() + '\n');
+            file.write(line.join(QLatin1Char('|')).toUtf8() + '\n');
         }
     }
 };

@@ -51,11 +51,10 @@ std::string Describe(const fs::directory_entry& entry) {
         std::ostringstream bytes;
         bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
         const std::string content = bytes.str();
-        const bool isLong = content.size() > 200;
-        text << " file "
-             << (isLong
-                     ? std::to_string(content.size()) + " bytes #" + std::to_string(std::hash<std::string>()(content))
-                     : content);
+        text << " file " << content.substr(0, 200);
+        if (content.size() > 200) {
+            text << "... #" << content.size() << " " << std::hash<std::string>()(content);
+        }
     } else {
         text << " other";
     }

@@ -30,7 +30,7 @@ FolderTest::~FolderTest() {
 }
 
 void FolderTest::Write(const std::string& path, const std::string& bytes) {
-    fs::create_directories(fs::path(path).parent_path());
+    fs::create_directories(fs::absolute(path).parent_path());
     EXPECT_TRUE(std::ofstream(path, std::ios::binary) << bytes << std::flush) << "can't write " << path;
 }
 
@@ -52,9 +52,9 @@ std::string WhyNot(Ability ability) {
     switch (ability) {
         case Ability::Linux: return fs::exists("/proc/self/ns/mnt") ? "" : "needs Linux";
         case Ability::Root: return geteuid() == 0 ? "" : "needs root";
-        case Ability::OwnThreads:
-#if defined(__SANITIZE_THREAD__)
-            return "the sanitizer has threads of its own";
+        case Ability::OwnCalls:
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+            return "a sanitizer makes calls of its own";
 #else
             return "";
 #endif

@@ -32,10 +32,10 @@ private:
 
 // What not every machine and every user can do.
 enum class Ability {
-    Linux,       // what a kernel of another kind has not: namespaces, /proc
-    Root,        // be another user
-    OwnThreads,  // tell a program's threads from those of a sanitizer
-    Tracing,     // see and change a program's system calls, by strace(1)
+    Linux,     // what a kernel of another kind has not: namespaces, /proc
+    Root,      // be another user
+    OwnCalls,  // tell a program's system calls from those of a sanitizer
+    Tracing,   // see and change a program's system calls, by strace(1)
 };
 
 // The reason why it can't be done here, empty if it can.

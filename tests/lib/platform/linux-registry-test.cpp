@@ -39,36 +39,35 @@ TEST_F(LinuxRegistryTest, DropsTheEntriesOfTheFolderAndNoOther) {
     EXPECT_EQ(Forget(), 0) << "nothing is registered, there is not even a folder";
     const std::string head = "[Desktop Entry]\nType=Application\nName=x\n";
     const std::string app = At("My Apps/K.app");
-    const std::tuple<const char*, std::string, bool> entries[] = {
-        {"ours.desktop", head + "Exec=\"" + app + "/Contents/MacOS/cloud-quay-ui\" %U\n", true},
-        {"ours too.desktop", head + "TryExec=" + app + "/bin/x\nExec=x\n", true},
-        {"by way of.desktop", head + "Exec=\"" + app + "/../K.app//bin/x\"\n", true},
-        {"other.desktop", head + "Exec=\"" + app + "2/bin/x\"\n", false},
-        {"argument.desktop", head + "Exec=/usr/bin/open \"" + app + "/bin/x\"\n", false},
-        {"action.desktop", head + "Exec=x\n[Desktop Action a]\nExec=\"" + app + "/bin/x\"\n", false},
-        {"other group.desktop", "[Something Else]\nExec=\"" + app + "/bin/x\"\n", false},
-        {"comment.desktop", head + "#Exec=\"" + app + "/bin/x\"\n", false},
-        {"not-an-entry.txt", head + "Exec=\"" + app + "/bin/x\"\n", false}};
-    for (const auto& [name, text, isOurs] : entries) {
-        Write(Entry(name), text);
+    const std::string ours = head + "Exec=\"" + app + "/Contents/MacOS/cloud-quay-ui\" %U\n";
+    const std::pair<std::string, bool> entries[] = {
+        {ours, true},
+        {head + "TryExec=" + app + "/bin/x\nExec=x\n", true},
+        {head + "Exec=\"" + app + "/../K.app//bin/x\"\n", true},
+        {head + "Exec=\"" + app + "2/bin/x\"\n", false},
+        {head + "Exec=/usr/bin/open \"" + app + "/bin/x\"\n", false},
+        {head + "Exec=x\n[Desktop Action a]\nExec=\"" + app + "/bin/x\"\n", false},
+        {"[Something Else]\nExec=\"" + app + "/bin/x\"\n", false},
+        {head + "TryExec=/usr/bin/x\nIcon=" + app + "/x.png\n", false},
+        {head + "#Exec=\"" + app + "/bin/x\"\n", false}};
+    for (std::size_t at = 0; at < std::size(entries); ++at) {
+        Write(Entry(std::to_string(at) + ".desktop"), entries[at].first);
     }
+    Write(Entry("not-an-entry.txt"), ours);
     EXPECT_EQ(Forget(), 0);
     EXPECT_EQ(Forget(), 0);
-    for (const auto& [name, text, isOurs] : entries) {
-        EXPECT_NE(fs::exists(Entry(name)), isOurs) << name;
+    for (std::size_t at = 0; at < std::size(entries); ++at) {
+        EXPECT_NE(fs::exists(Entry(std::to_string(at) + ".desktop")), entries[at].second) << entries[at].first;
     }
+    EXPECT_TRUE(fs::exists(Entry("not-an-entry.txt")));
     EXPECT_EQ(Read(At("refreshed")), At("data/applications") + "\n") << "once, as the second time nothing is dropped";
 
     // The status is the tool's, and no tool is no failure.
-    InstallTool("exit 3\n");
-    Write(Entry("ours.desktop"), std::get<1>(entries[0]));
-    EXPECT_EQ(Forget(), 3);
-    InstallTool("kill -9 $$\n");
-    Write(Entry("ours.desktop"), std::get<1>(entries[0]));
-    EXPECT_EQ(Forget(), -2);
-    fs::remove_all(At("bin"));
-    Write(Entry("ours.desktop"), std::get<1>(entries[0]));
-    EXPECT_EQ(Forget(), 0);
+    for (const auto& [script, status] : {std::pair("exit 3\n", 3), {"kill -9 $$\n", -2}, {nullptr, 0}}) {
+        script != nullptr ? InstallTool(script) : static_cast<void>(fs::remove_all(At("bin")));
+        Write(Entry("0.desktop"), ours);
+        EXPECT_EQ(Forget(), status);
+    }
 }
 
 TEST_F(LinuxRegistryTest, WhatCannotBeStartedIsANo) {

@@ -1,0 +1,385 @@
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <fstream>
+#include <random>
+#include <regex>
+#include <set>
+#include <thread>
+
+#include "file/file-op.h"
+#include "file/internal.h"
+#include "file/tmp-name.h"
+#include "log/logger.h"
+#include "package.h"
+#include "test-folder.h"
+#include "volume.h"
+
+namespace {
+
+// Works in the test's folder, so that relative paths lead there.
+class FileTest : public FolderTest {
+protected:
+    FileTest() { fs::current_path(folder()); }
+    ~FileTest() override { fs::current_path("/"); }
+
+    // What a function returns and what it logs, the prefix of each line cut down to its level: "-1 ERROR open...\n".
+    template <typename Result, typename... Types, typename... Arguments>
+    static std::string Told(Result (*function)(Types...), Arguments&&... arguments) {
+        static const std::regex prefix(R"([-\d]+T[:\d]+ \( *\d+: *\d+\) (\[[A-Z]+\]) [a-z-]+\.cpp\(\d+\): )");
+        std::string result;
+        const std::string log =
+            StandardErrorOf([&] { result = std::to_string(function(static_cast<Types>(arguments)...)); });
+        return result + (log.empty() ? "" : " ") + std::regex_replace(log, prefix, "$1 ");
+    }
+
+    void LogUpTo(int level) const {
+        Write(At("levels"), "file_op_debug=" + std::to_string(level) + "\n");
+        Logger::Initialize(Logger::TYPE_STDERR, "", At("levels"), 1, Logger::SCOPE_NONE);
+        fs::remove(At("levels"));
+    }
+};
+
+// What an operation of the library does to a tree, the standard library does to another.
+TEST_F(FileTest, TreesChangeAsUnderTheStandardLibrary) {
+    std::mt19937 random(7);
+    const auto path = [&] {
+        std::string text;
+        for (auto depth = random() % 3 + 1; depth > 0; --depth) {
+            text += std::string("/") + "aBc"[random() % 3];
+        }
+        return text;
+    };
+    for (int step = 0; step < 1500; ++step) {
+        if (step % 50 == 0) {
+            fs::remove_all("ours");
+            fs::remove_all("theirs");
+            fs::create_directory("ours");
+            fs::create_directory("theirs");
+        }
+        const auto operation = random() % 7;
+        const std::string one = path();
+        const std::string two = path();
+        const auto [ours, oursTo] = std::pair("ours" + one, "ours" + two);
+        const auto [theirs, theirsTo] = std::pair("theirs" + one, "theirs" + two);
+        SCOPED_TRACE(std::to_string(operation) + " " + one + " " + two);
+        std::error_code error;
+        if (operation == 0 && !fs::exists(theirs, error)) {
+            Write("new", std::to_string(step) + std::string(random() % 3 * 8192, 'x'));
+            Told(FSCopy, "new", ours, false, false);
+            std::ofstream(theirs) << std::ifstream("new").rdbuf();
+        } else if (operation == 1 && fs::is_regular_file(theirs, error) && !fs::equivalent(theirs, theirsTo, error)) {
+            Told(FSCopy, ours, oursTo, false, false);
+            std::ofstream(theirsTo) << std::ifstream(theirs).rdbuf();
+        } else if (operation == 2) {
+            fs::rename(theirs, theirsTo, error);
+            EXPECT_EQ(Told(FSRename, ours, oursTo, false)[0] == '0', !error) << error.message();
+        } else if (operation == 3) {
+            fs::remove_all(theirs, error);
+            Told(FSRemove, ours, false);
+        } else if (operation == 4 || operation == 5) {
+            operation == 4 ? fs::create_directories(theirs, error) : fs::create_directory(theirs, error);
+            EXPECT_EQ(Told(FSMKDir, ours, operation == 4)[0] == '0',
+                      fs::is_directory(fs::symlink_status(theirs, error)));
+        } else if (operation == 6) {
+            fs::create_symlink(&two[1], theirs, error);
+            EXPECT_EQ(Told(FSCreateSymbolicLink, &two[1], ours)[0] == '0', !error);
+        }
+        ASSERT_EQ(ReadTree("ours"), ReadTree("theirs"));
+        ASSERT_FALSE(HasFailure());
+    }
+}
+
+TEST_F(FileTest, ResultsAndTheirWords) {
+    Write("file", "text");
+    Write("full/x", "");
+    Write("replaced", "");
+    fs::create_directory("dir");
+    fs::create_directory_symlink("dir", "to-dir");
+    fs::create_symlink("nowhere", "dangling");
+    const std::string noFolder = "-1 [ERROR] FSMKDir: Create a folder but local file system is not directory '";
+    const std::string noFile = "No such file or directory";
+    const std::string inWay = "[INFO] FSMKDirP: path: file is ";
+    const std::string slashes(4092, '/');
+    std::string text = "old";
+    std::string path;
+    DIR_HANDLE handle;
+    int (*const walk)(const std::string&, bool) = [](const std::string& in, bool replace) {
+        const char* end = in.c_str();
+        const int result = FSMKDirP(in, &end, replace, kNoDirMode) == 0 ? 0 : errno;
+        return result * 100 + static_cast<int>(end - in.c_str());  // and how far it came
+    };
+    LogUpTo(Logger::LEVEL_INFO);
+    const std::pair<std::string, std::string> cases[] = {
+        {Told(FSCopy, "no/x", "new", false, false), "-1 [ERROR] CopyFile: open(no/x): " + noFile + " (2)\n"},
+        {Told(FSCopy, "file", "no/x", true, false), "-1 [ERROR] CopyFile: open(no/x): " + noFile + " (2)\n"},
+        {Told(FSCopy, "dir", "new", false, false), "-1 [ERROR] CopyFile: read: Is a directory (21)\n"},
+        {Told(FSCopy, "file", "/dev/full", true, false), "-2 [ERROR] CopyFile: write: No space left on device (28)\n"},
+        {Told(FSRename, "", "new", false) + Told(FSRename, "file", "", false), "-1-1"},
+        {Told(FSRename, "no/x", "new", false) + Told(FSRename, At("to-dir/../file"), "new", true), "-2-2"},
+        {Told(FSRename, "file", std::string(300, 'n'), false) + Told(FSRename, "dir", "full", false), "-100-3"},
+        {Told(FSRemove, "", false) + Told(FSRemove, "file/a", false) + Told(FSRemove, "no/x", false), "-1-10"},
+        {Told(FSRemove, "/proc/self/comm", false) + Told(FSRemove, "/proc/self/task", false), "-3-3"},
+        {Told(FSFsync, "file") + Told(FSFsync, "no/x"), "01"},
+        {Told(FSFsync, "file/a"), "-1 [ERROR] FSFsync: open(file/a): Not a directory (20)\n"},
+        {Told(FSFsync, "/dev/null"), "-1 [ERROR] FSFsync: fsync(/dev/null): Invalid argument (22)\n"},
+        {Told(FSMKDir, "", true) + Told(FSMKDir, "/", true) + Told(FSMKDir, "1//2/3/", true), "-100"},
+        {Told(FSMKDir, "file", true), noFolder + "file' (1)\n"},
+        {Told(FSMKDir, "to-dir", true), noFolder + "to-dir' (3)\n"},
+        {Told(FSMKDir, "file/a", true), "-1 [ERROR] FSMKDir: Failed to to file info 'file/a'\n"},
+        {Told(FSMKDir, "no/x", false), "-2 [ERROR] path = no/x errno : " + noFile + "\n"},
+        {Told(FSMKDir, "/proc/no/a", true), "-2 [ERROR] path = /proc/no/a errno : " + noFile + "\n"},
+        {Told(FSMKDirFromRoot, "dir", "dir") + Told(FSMKDirFromRoot, "dir/a/b", "dir"), "00"},
+        {Told(FSMKDirFromRoot, "/l", "/long"),
+         "-1 [ERROR] Giving a root '/long' whose length is larger then target's '/l'.\n"},
+        {Told(FSMKDirFromRoot, "/abc/d", "/ab"), "-1 [ERROR] root '/ab' is not a parent folder of target '/abc/d'\n"},
+        {Told(FSMKDirFromRoot, "full/x/c", "full"), noFolder + "full/x' (1)\n"},
+        {Told(walk, "//", false), "1"},
+        {Told(walk, "d//e/", false), "4"},
+        {Told(walk, "file/", false), "1704 " + inWay + "existing file or symbolic link pointed to file\n"},
+        {Told(walk, "file/f/g", false), "2006 " + inWay + "symbolic link pointed to folder\n"},
+        {Told(walk, "dangling/x", false), "1708"},
+        {Told(walk, "replaced/h", true), "10"},
+        {Told(FSMKDirP, "", nullptr, false, kNoDirMode), "-1"},
+        {Told(FSOpenDir, "no/x", 1, handle), "-1 [ERROR] FSOpenDir: Failed to open directory 'no/x'. " + noFile + "\n"},
+        {Told(isMountPoint, "no"), "0 [ERROR] isMountPoint: Failed to get file system info 'no'. " + noFile + "\n"},
+        {Told(IsMSDOS, "no"), "0 [ERROR] IsSupportLargeFile: Failed to get file system info 'no'. " + noFile + "\n"},
+        {Told(isMountPoint, "/proc") + Told(IsMSDOS, "/") + Told(FSUTime, "no", 0, 0) + Told(FSGetRealPath, text),
+         "00-1-1"},
+        {Told(FSReadSymbolicLink, "file", text),
+         "-1 [ERROR] FSReadSymbolicLink: Failed to read symbolic link 'file' (code: 22, msg: Invalid argument)\n"},
+        {Told(FSCreateSymbolicLink, "x", "file"),
+         "-1 [ERROR] FSCreateSymbolicLink: Failed to create symbolic link 'x' -> 'file' (code: 17, msg: File "
+         "exists)\n"},
+        {Told(FSChmod, "no", 0600), "-1 [ERROR] FSChmod: Failed to chmod 'no' (code: 2, msg: " + noFile + ")\n"},
+        {Told(FSChown, "no", 0, 0), "-1 [ERROR] FSChown: Failed to chown 'no' (code: 2, msg: " + noFile + ")\n"},
+        {Told(FSMktemp, "no", text).substr(0, 22), "-1 [ERROR] mkstemp(no/"},
+        {Told(FSMktemp, slashes, text).substr(0, 21), "-1 [ERROR] mkstemp(//"},
+        {Told(isFileLocked, "file", X_OK) + Told(isFileLocked, "file", R_OK) + Told(isFileLocked, "no", X_OK), "100"},
+        {Told(hasFilePermission, "file", X_OK) + Told(hasFilePermission, "no", R_OK), "01"},
+        {FSParentPath("/a/b") + FSParentPath("/a/b/") + FSParentPath("abc") + FSParentPath("/abc"), "/a/a/b//"},
+        {FSBaseName("/a/b") + FSBaseName("/a/b/") + FSBaseName("abc") + FSBaseName("/abc"), "babcabc"},
+        {Told(FSIsParentFolder, "/a", "/a/b") + Told(FSIsParentFolder, "/a", "/a") + Told(FSIsParentFolder, "", "/a"),
+         "111"},
+        {Told(FSIsParentFolder, "/a", "/ab") + Told(FSIsParentFolder, "/a/", "/a/b") +
+             Told(FSIsParentFolder, "/a/b", "/a"),
+         "000"},
+        {Told(FSIsParentFolder, "/a", "/b/c") + Told(FSIsParentFolder, "", "a") + Told(FSTimeEqual, 5, 5), "001"},
+        {Told(FSCreateTempPath, std::string("/x\0y", 4), path), "0"}};
+    for (const auto& [told, expected] : cases) {
+        EXPECT_EQ(told, expected);
+    }
+    EXPECT_EQ(text + handle.path + FSParentPath(path), "old/x");
+    EXPECT_EQ(0U, TmpNameGen::getInstance().getTmpPath("/x/").find("/x//"));
+    std::string left;
+    for (const auto& [name, description] : ReadTree(".")) {
+        left += name + (description == "755 folder" ? "/ " : " ");
+    }
+    EXPECT_EQ(
+        left,
+        "1/ 1/2/ 1/2/3/ d/ d/e/ dangling dir/ dir/a/ dir/a/b/ file full/ full/x new replaced/ replaced/h/ to-dir ");
+    LogUpTo(Logger::LEVEL_WARNING);
+}
+
+TEST_F(FileTest, Modes) {
+    Write("src", "text");
+    const std::tuple<bool, mode_t, mode_t, const char*> cases[] = {
+        {false, 0777, 027, "640 file text"}, {true, 0751, 022, "751 file text"}, {true, 0777, 027, "750 file text"}};
+    for (const auto& [keep, mode, mask, expected] : cases) {
+        EXPECT_EQ(0, FSChmod("src", static_cast<std::uint16_t>(mode)));
+        umask(mask);
+        EXPECT_EQ(0, FSCopy(At("src"), "new", false, keep));
+        EXPECT_EQ(ReadTree(".")["new"], expected);
+        fs::remove("new");
+    }
+    // A source under another spelling than its own counts as without a mode; a file that was there keeps its own.
+    EXPECT_EQ(0, FSCopy("src", "bare", false, true));
+    EXPECT_EQ(0, FSCopy(At("src"), "bare", true, true));
+    EXPECT_EQ(0, FSMKDirP("a/b", nullptr, false, 0775));
+    EXPECT_EQ(0027U, umask(022)) << "put back";
+    std::string path;
+    EXPECT_EQ(0, FSMktemp("a", path));
+    const Tree left = {{"a", "775 folder"}, {"a/b", "775 folder"}, {path, "644 file "}, {"bare", "0 file text"}};
+    EXPECT_EQ(ReadTree("."), left);
+}
+
+TEST_F(FileTest, OverAVolumeBorder) {
+    const Volume volume(Volume::Tmpfs, At("volume"), 1 << 20);
+    KQ_NEED(volume);
+    for (int number = 0; number < 40; ++number) {
+        Write("dir/sub/" + std::to_string(number), "x");
+    }
+    fs::permissions("dir/sub/1", fs::perms::all);
+    fs::create_directory("dir/empty");
+    const Tree all = ReadTree("dir");
+    // What can't be moved ends the move; what was moved stays so, and a second attempt takes the rest.
+    fs::create_symlink("nowhere", "dir/sub/link");
+    EXPECT_EQ("-3", Told(FSRename, "dir", "volume/dir", false));
+    EXPECT_TRUE(fs::is_symlink("dir/sub/link"));
+    fs::remove("dir/sub/link");
+    EXPECT_EQ("0", Told(FSRename, At("dir"), "volume/dir", true));
+    EXPECT_FALSE(fs::exists("dir"));
+    Tree moved = all;
+    moved["sub/1"] = "644 file x";
+    EXPECT_EQ(ReadTree("volume/dir"), moved);
+    // A full disk is a failed move like any other, and so is a file in a folder's way.
+    Write("dir/big", std::string(2 << 20, 'b'));
+    EXPECT_EQ("-3 [ERROR] CopyFile: write: No space left on device (28)\n", Told(FSRename, "dir", "volume/dir", false));
+    EXPECT_EQ("-3", Told(FSRename, "dir", "volume/dir/sub/1", false).substr(0, 2));
+    EXPECT_TRUE(fs::exists("dir/big"));
+}
+
+TEST_F(FileTest, TemporaryNamesFromEightThreads) {
+    std::vector<std::vector<std::string>> names(8, std::vector<std::string>(50000));
+    std::vector<std::thread> threads;
+    TmpNameGen::getInstance().reseed();
+    for (std::vector<std::string>& own : names) {
+        threads.emplace_back(
+            [&own] { std::generate(own.begin(), own.end(), [] { return TmpNameGen::getInstance().getTmpName(); }); });
+    }
+    std::set<std::string> all;
+    std::set<char> drawn;
+    for (std::size_t at = 0; at < threads.size(); ++at) {
+        threads[at].join();
+        all.insert(names[at].begin(), names[at].end());
+    }
+    for (const std::string& name : all) {
+        ASSERT_EQ(8U, name.size());
+        drawn.insert(name.begin(), name.end());
+    }
+    EXPECT_EQ(all.size(), 400000U);
+    const std::string alphabet = "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz";
+    EXPECT_EQ(alphabet, std::string(drawn.begin(), drawn.end())) << "each is drawn, and nothing else";
+}
+
+TEST_F(FileTest, TheRecordIsThatOfLstat) {
+    Write("regular", "12345");
+    fs::create_directory("directory");
+    fs::create_symlink("directory", "symlink");
+    ASSERT_EQ(0, mkfifo("fifo", 0604));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    std::strcpy(address.sun_path, "socket");
+    ASSERT_EQ(0, bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof(address)));
+    close(socket);
+    std::map<std::string, DIR_ENTRY> listed;
+    DIR_HANDLE handle;
+    ASSERT_EQ(0, FSOpenDir(folder(), 1, handle));
+    for (DIR_ENTRY entry; FSReadDir(handle, entry) == 1;) {
+        listed[At(entry.name)] = entry;
+    }
+    EXPECT_EQ(listed.size(), 7U);
+    FSCloseDir(handle);
+    EXPECT_EQ(nullptr, handle.dir);
+    const std::pair<std::string, std::int32_t> cases[] = {{At("regular"), 1}, {At("directory"), 2}, {At("symlink"), 3},
+                                                          {At("fifo"), 6},    {At("socket"), 7},    {"/dev/null", 5},
+                                                          {"/", 2},           {At("absent"), 0}};
+    for (const auto& [path, type] : cases) {
+        struct stat status = {};
+        EXPECT_EQ(type == 0, lstat(path.c_str(), &status) != 0);
+        _FILE_INFO_tag info;
+        info.type = info.uid = info.mode = 9;
+        EXPECT_EQ(0, GetFileInfo(path, info)) << path;
+        const auto told = std::tuple(info.exist, info.path, info.name, info.type, info.mtime, info.size, info.uid,
+                                     info.gid, info.mode, info.dev);
+        EXPECT_EQ(told, std::tuple(type != 0, path, FSBaseName(path), type, status.st_mtime, status.st_size,
+                                   status.st_uid, status.st_gid, status.st_mode, status.st_dev));
+        if (const DIR_ENTRY& entry = listed[path]; !entry.name.empty()) {
+            EXPECT_EQ(std::tuple(entry.type, entry.size, entry.mtime), std::tuple(type, info.size, info.mtime));
+        }
+    }
+    // Owner, mode and device take no part in a comparison.
+    _FILE_INFO_tag info;
+    _FILE_INFO_tag other;
+    other.uid = other.gid = other.mode = 1;
+    other.dev = 1;
+    EXPECT_TRUE(info == other && !(info != other));
+    for (const auto& change : std::vector<std::function<void()>>{[&] { info.exist = true; }, [&] { info.size = 9; },
+                                                                 [&] { info.mtime = 9; }, [&] { info.type = 9; },
+                                                                 [&] { info.path = "p"; }, [&] { info.name = "n"; }}) {
+        info = other;
+        change();
+        EXPECT_TRUE(info != other && !(info == other));
+    }
+}
+
+TEST_F(FileTest, ExactSpelling) {
+    Write("dir/file", "12345");
+    Write("dir/e\u0301", "");
+    Write("dir/\xFF", "");
+    fs::create_symlink("dir", "to-dir");
+    fs::create_symlink("nowhere", "dangling");
+    // In NFC what is not UTF-8 is nothing, and so the same on both sides.
+    for (const std::string path : {"dir/file", "dangling", "dir/e\u0301", "to-dir", "to-dir/\xFF"}) {
+        EXPECT_EQ('1', Told(IsFileExist, path, false)[0]) << path;
+        EXPECT_EQ('1', Told(IsFileExist, At(path), true)[0]) << path;
+        EXPECT_EQ(path == "to-dir/\xFF" ? '1' : '0', Told(IsFileExist, At("dir/../" + path), true)[0]) << path;
+    }
+    for (const char* path : {"dir/\u00E9", "dir/FILE", "dir/file/below", ""}) {
+        EXPECT_EQ("00", Told(IsFileExist, path, false) + Told(IsFileExist, path, true)) << path;
+    }
+    _FILE_INFO_tag info;
+    info.exist = true;
+    info.size = 9;
+    EXPECT_EQ("-1", Told(FSStat, "", info, false));
+    EXPECT_EQ("0", Told(FSStat, At("to-dir/file"), info, true));
+    EXPECT_FALSE(info.exist);
+    EXPECT_EQ(9, info.size) << "the rest stays";
+    const auto found = [&](const std::string& from, const std::string& to) {
+        return "[DEBUG] Input file path = [" + from + "].\n[DEBUG] FSRefMakePath outTargetPath path = [" + At(to) +
+               "].\n";
+    };
+    LogUpTo(Logger::LEVEL_DEBUG);
+    const std::string file = found("to-dir/file", "dir/file");
+    EXPECT_EQ("0 " + file + file, Told(FSStat, "to-dir/file", info, false));
+    EXPECT_EQ(std::tuple(At("dir/file"), 5), std::tuple(info.path, info.size));
+    // Below its first folder a walk asks nobody for spellings; the log tells them all the same.
+    Write("dir/sub/x", "");
+    EXPECT_EQ("0 " + found("to-dir/sub", "dir/sub") + found("to-dir/sub/x", "dir/sub/x"),
+              Told(FSRemove, "to-dir/sub", false));
+    LogUpTo(Logger::LEVEL_WARNING);
+    // A spelling that is too long can't be found.
+    const std::string name(250, 'd');
+    for (int level = 0; level < 17; ++level) {
+        ASSERT_TRUE(fs::create_directory(name) && chdir(name.c_str()) == 0);
+    }
+    std::ofstream("file") << "1234";
+    EXPECT_EQ("-1 [ERROR] FSPathMakeRef: 36\n", Told(GetFileInfo, "file", info));
+    EXPECT_EQ(std::tuple("file", 4), std::tuple(info.path, info.size));
+    EXPECT_EQ('0', Told(IsFileExist, "file", false)[0]);
+}
+
+TEST_F(FileTest, OfALinkItsOwn) {
+    Write("file", "");
+    fs::create_symlink("file", "link");
+    for (const std::size_t length : {1U, 1023U, 1024U, 2000U}) {
+        std::string read = "old";
+        const std::string target(length, 't');
+        EXPECT_EQ(0, FSCreateSymbolicLink(target, std::to_string(length)));
+        EXPECT_EQ(length < 1024 ? '0' : '-', Told(FSReadSymbolicLink, std::to_string(length), read)[0]);
+        EXPECT_EQ(length < 1024 ? target : "old", read);
+    }
+    std::string path = "link";
+    EXPECT_EQ(0, FSGetRealPath(path));
+    EXPECT_EQ(At("file"), path);
+    EXPECT_EQ(0, FSUTime("link", 1000, 2000));
+    EXPECT_EQ(0, FSUTime("file", 1000, (std::int64_t{1} << 32) + 5));
+    _FILE_INFO_tag info;
+    EXPECT_EQ(0, GetFileInfo("link", info));
+    EXPECT_EQ(2000, info.mtime);
+    EXPECT_EQ(0, GetFileInfo("file", info));
+    EXPECT_EQ(5, info.mtime) << "the low 32 bits";
+    EXPECT_FALSE(FSTimeEqual(5, 5 + (std::int64_t{1} << 32)));
+    EXPECT_EQ(0, FSChmod("link", 0604));
+    EXPECT_EQ(ReadTree(".")["file"], "604 file ");
+    KQ_NEED(Ability::Root);
+    EXPECT_EQ(0, FSChown("link", 4321, 1234));
+    EXPECT_EQ(0, GetFileInfo("link", info));
+    EXPECT_EQ(std::tuple(4321, 1234), std::tuple(info.uid, info.gid));
+}
+
+}  // namespace

@@ -15,6 +15,9 @@ foreach(language IN ITEMS C CXX)
     set(CMAKE_${language}_FLAGS_INIT "-O1 -isystem ${kq_stand_ins}/include -F${kq_stand_ins}")
 endforeach()
 
+# All of each room is linked, also what a program has no use for, so that no open symbol is overlooked.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--whole-archive -Wl,--no-gc-sections")
+
 # The packages of the machine that builds are not those of a Mac.
 set(CMAKE_FIND_ROOT_PATH ${kq_stand_ins})
 foreach(kind IN ITEMS PACKAGE LIBRARY INCLUDE)

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "platform/change-time.h"
 #include "progress.h"
 
 namespace fs = std::filesystem;
@@ -63,7 +64,7 @@ Error MakeFile(const std::string& path, unsigned mode, const Fill& fill) {
     QFile file(QString::fromStdString(path));
     const auto fail = [&] { return Error::System(path); };
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) ||
-        fchmod(file.handle(), mode) != 0) {
+        fchmod(file.handle(), static_cast<mode_t>(mode)) != 0) {
         return fail();
     }
     Error error = fill([&](std::string_view block) {
@@ -93,11 +94,7 @@ bool Look(const std::string& root, const std::string& path, Entry& entry) {
         return false;
     }
     entry = {path, KindOf(info.st_mode), info.st_mode & 07777U, 0, {}, {}, {}, info.st_ino, info.st_nlink, {}};
-#ifdef __APPLE__
-    entry.changed = info.st_ctimespec;
-#else
-    entry.changed = info.st_ctim;
-#endif
+    entry.changed = platform::ChangeTime(info);
     entry.size = entry.kind == Kind::File ? info.st_size : 0;
     entry.target = entry.kind == Kind::Link ? fs::read_symlink(full, failure).string() : "";
     return !failure;

@@ -119,7 +119,7 @@ TEST_F(BundleTest, CheckFindsEverySeed) {
                "\nicon_overlay_version=3\n";
     };
     using Path = const std::string&;
-    const auto odd = [this](Path path) {
+    const auto odd = [](Path path) {
         fs::remove_all(path);
         ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
     };
@@ -127,7 +127,7 @@ TEST_F(BundleTest, CheckFindsEverySeed) {
         fs::rename(path, At("moved"));
         fs::create_symlink(At("moved"), path);
     };
-    const auto write = [this](const std::string& text) { return [this, text](Path path) { Write(path, text); }; };
+    const auto write = [](const std::string& text) { return [text](Path path) { Write(path, text); }; };
     const auto mode = [](unsigned bits) { return [bits](Path path) { fs::permissions(path, fs::perms(bits)); }; };
     const auto remove = [](Path path) { fs::remove(path); };
     const std::string desktop = "[Desktop Entry]\nType=Application\nName=X\nExec=";

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "platform/change-time.h"
 #include "quay-test.h"
 #include "volume.h"
 
@@ -13,16 +14,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Everything of a tree that a look at it may not change, times of modification and change included.
+// Everything of a tree that a look at it may not change, the times of change included.
 std::map<std::string, std::string> Snapshot(const std::string& folder) {
     std::map<std::string, std::string> snapshot;
     const auto add = [&snapshot](const fs::path& path) {
         struct stat info = {};
         ASSERT_EQ(lstat(path.c_str(), &info), 0) << path;
+        const struct timespec changed = platform::ChangeTime(info);
         std::string text;
-        for (const auto value :
-             {static_cast<long>(info.st_ino), static_cast<long>(info.st_mode), static_cast<long>(info.st_size),
-              info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ctim.tv_sec, info.st_ctim.tv_nsec}) {
+        for (const auto value : {static_cast<long>(info.st_ino), static_cast<long>(info.st_mode),
+                                 static_cast<long>(info.st_size), changed.tv_sec, changed.tv_nsec}) {
             text += std::to_string(value) + " ";
         }
         snapshot[path.string()] = text;
@@ -215,8 +216,8 @@ TEST_F(ExplainTest, VerifyFindsEachDifference) {
         {{}, [](const std::string& c) { fs::permissions(c + "/Resources/large", fs::perms(0600)); }},
         {{"KQ901"}, [](const std::string& c) { fs::remove(c + "/Resources/large"); }},
         {{"KQ901"}, [](const std::string& c) { fs::remove_all(c + "/Resources"); }},
-        {{"KQ902"}, [this](const std::string& c) { Write(c + "/Resources/only-in-8", "9"); }},
-        {{"KQ902"}, [this](const std::string& c) { Write(c + "/Resources/only-in-8", "88"); }},
+        {{"KQ902"}, [](const std::string& c) { Write(c + "/Resources/only-in-8", "9"); }},
+        {{"KQ902"}, [](const std::string& c) { Write(c + "/Resources/only-in-8", "88"); }},
         {{"KQ902"},
          [](const std::string& c) {
              fs::remove(c + "/Resources/large"), mkfifo((c + "/Resources/large").c_str(), 0644);
@@ -227,7 +228,7 @@ TEST_F(ExplainTest, VerifyFindsEachDifference) {
          }},
         {{"KQ901", "KQ902", "KQ903"},
          [](const std::string& c) { fs::rename(c + "/MacOS", c + "/M"), fs::create_symlink("M", c + "/MacOS"); }},
-        {{"KQ903"}, [this](const std::string& c) { Write(c + "/Resources/empty/more", ""); }},
+        {{"KQ903"}, [](const std::string& c) { Write(c + "/Resources/empty/more", ""); }},
         {{"KQ904"}, [](const std::string& c) { fs::permissions(c + "/MacOS/cloud-quay-ui", fs::perms(0644)); }},
         {{"KQ904"}, [](const std::string& c) { fs::permissions(c + "/Resources/large", fs::perms(0666)); }},
     };

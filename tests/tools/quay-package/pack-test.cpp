@@ -1,11 +1,11 @@
-#include <poll.h>
-#include <sys/inotify.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <QFileSystemWatcher>
 #include <QJsonArray>
+#include <QSignalSpy>
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
@@ -109,13 +109,13 @@ TEST_F(PackTest, RefusesWhatCantBeMended) {
         {{"KQ501"}, [](const std::string& c) { fs::remove(c + "/MacOS/cloud-quay-ui"); }},
         {{"KQ502"}, [](const std::string& c) { fs::permissions(c + "/MacOS/cloud-quay-ui", fs::perms(0644)); }},
         {{"KQ503"}, [](const std::string& c) { fs::resize_file(c + "/MacOS/cloud-quay-ui", 5); }},
-        {{"KQ306"}, [this](const std::string& c) { Write(c + "/MacOS/worker", "#!/bin/sh\n"); }},
+        {{"KQ306"}, [](const std::string& c) { Write(c + "/MacOS/worker", "#!/bin/sh\n"); }},
         {{"KQ401"}, [](const std::string& c) { fs::create_symlink("/usr", c + "/l"); }},
         {{"KQ402"}, [](const std::string& c) { fs::create_symlink("../../client", c + "/l"); }},
         {{"KQ302"}, [](const std::string& c) { ASSERT_EQ(mkfifo((c + "/fifo").c_str(), 0600), 0); }},
         {{"KQ302"},
          [](const std::string& c) {
-             const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+             const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
              sockaddr_un address = {};
              address.sun_family = AF_UNIX;
              ASSERT_LT(c.size() + 3, sizeof(address.sun_path));
@@ -123,10 +123,10 @@ TEST_F(PackTest, RefusesWhatCantBeMended) {
              ASSERT_EQ(bind(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
              close(descriptor);
          }},
-        {{"KQ206"}, [this](const std::string& c) { Write(c + "/Ünit", ""), Write(c + "/üNIT", ""); }},
-        {{"KQ206"}, [this](const std::string& c) { Write(c + "/Resources/info", ""); }},
-        {{"KQ210"}, [this](const std::string& c) { Write(c + "/../README", ""); }},
-        {{"KQ214"}, [this](const std::string& c) { fs::remove_all(c + "/Resources"), Write(c + "/Resources", ""); }},
+        {{"KQ206"}, [](const std::string& c) { Write(c + "/Ünit", ""), Write(c + "/üNIT", ""); }},
+        {{"KQ206"}, [](const std::string& c) { Write(c + "/Resources/info", ""); }},
+        {{"KQ210"}, [](const std::string& c) { Write(c + "/../README", ""); }},
+        {{"KQ214"}, [](const std::string& c) { fs::remove_all(c + "/Resources"), Write(c + "/Resources", ""); }},
         {{"KQ403"},
          [](const std::string& c) {
              fs::rename(c + "/Resources", c + "/R"), fs::create_symlink("R", c + "/Resources");
@@ -141,7 +141,7 @@ TEST_F(PackTest, RefusesWhatCantBeMended) {
          [](const std::string& c) {
              fs::remove(c + "/Resources/INFO"), mkfifo((c + "/Resources/INFO").c_str(), 0600);
          }},
-        {{"KQ512"}, [this](const std::string& c) { Write(c + "/Resources/INFO", std::string(70000, '\n')); }},
+        {{"KQ512"}, [](const std::string& c) { Write(c + "/Resources/INFO", std::string(70000, '\n')); }},
     };
     for (const auto& input : inputs) {
         SCOPED_TRACE(*input.codes.begin());
@@ -227,14 +227,12 @@ TEST_F(PackTest, WrongUsageIsTwo) {
 
 namespace {
 
-// Waits until something is written in a folder.
-void AwaitWrite(const std::string& folder, const std::function<void()>& start) {
-    const int watch = inotify_init1(IN_CLOEXEC);
-    ASSERT_GE(inotify_add_watch(watch, folder.c_str(), IN_MODIFY), 0);
+// Waits until a file comes into a folder.
+void AwaitFile(const std::string& folder, const std::function<void()>& start) {
+    const QFileSystemWatcher watcher({QString::fromStdString(folder)});
+    QSignalSpy changes(&watcher, &QFileSystemWatcher::directoryChanged);
     start();
-    pollfd poller = {watch, POLLIN, 0};
-    ASSERT_EQ(poll(&poller, 1, 60000), 1) << "nothing was ever written";
-    close(watch);
+    ASSERT_TRUE(!changes.isEmpty() || changes.wait(60000)) << "nothing was ever written";
 }
 
 }  // namespace
@@ -249,7 +247,7 @@ TEST_F(PackTest, AnEndedRunLeavesTheOldOutput) {
         const std::string out = At("out-" + std::to_string(number));
         Write(out + "/p.kpk", "the old one");
         std::unique_ptr<Process> process;
-        AwaitWrite(out, [&] {
+        AwaitFile(out, [&] {
             process = std::make_unique<Process>(
                 std::vector<std::string>{tool_, "pack", client, "-o", out + "/p.kpk", "--build", "8"}, environment_);
         });
@@ -276,7 +274,7 @@ TEST_F(PackTest, AChangedFolderIsNotPacked) {
         fs::resize_file(contents + "/a", 60 << 20);
         Write(contents + "/z", "z");
         std::unique_ptr<Process> process;
-        AwaitWrite(At("out"), [&] {
+        AwaitFile(At("out"), [&] {
             process = std::make_unique<Process>(
                 std::vector<std::string>{tool_, "pack", At("client"), "-o", At("out/p.kpk"), "--build", "8"},
                 environment_);

@@ -3,6 +3,7 @@
 #include <langinfo.h>
 #include <strings.h>
 
+#include <QString>
 #include <QtGlobal>
 #include <clocale>
 #include <csignal>

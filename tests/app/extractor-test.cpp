@@ -3,7 +3,6 @@
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <sys/stat.h>
 
 #include "package.h"
 #include "resources/str-table.h"

@@ -1,7 +1,5 @@
 #include "launcher-test.h"
 
-#include <sys/stat.h>
-
 #include <regex>
 #include <sstream>
 

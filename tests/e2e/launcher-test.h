@@ -1,9 +1,6 @@
 // The built launcher on a bundle and a home that are made for the test.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "package.h"
 #include "process.h"
 #include "test-folder.h"

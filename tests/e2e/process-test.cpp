@@ -1,5 +1,4 @@
 // The launcher and other processes: running clients, second starts, and an end or an error in the middle of the work.
-#include <sys/stat.h>
 
 #include <csignal>
 #include <regex>

@@ -1,5 +1,4 @@
 // What becomes of a home in every branch of a run.
-#include <algorithm>
 
 #include "launcher-test.h"
 

@@ -2,10 +2,16 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace fs = std::filesystem;
 

@@ -100,9 +100,6 @@ public:
     static void LogMsg3(Level level, const std::string& component, std::stringstream& stream, ConfigFlag flags);
 
 private:
-    // Reads and presets the state; defined by tests.
-    friend struct LoggerInspector;
-
     // Shuts logging and closes the log file; the first step of Initialize().
     static void Destroy();
 

@@ -1,7 +1,6 @@
 #include "log/config.h"
 
 #include <climits>
-#include <random>
 
 #include "test-folder.h"
 

@@ -2,12 +2,10 @@
 
 #include <sys/resource.h>
 #include <syslog.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 #include <ctime>
-#include <map>
 #include <regex>
 #include <thread>
 

@@ -1,7 +1,5 @@
 #include "platform/file-reference.h"
 
-#include <random>
-
 #include "platform/linux/name-spelling.h"
 #include "platform/linux/volume-magic.h"
 #include "test-folder.h"

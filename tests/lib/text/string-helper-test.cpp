@@ -1,9 +1,6 @@
 #include "text/string-helper.h"
 
 #include <QString>
-#include <algorithm>
-#include <map>
-#include <random>
 
 #include "test-folder.h"
 

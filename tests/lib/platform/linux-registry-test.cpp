@@ -23,7 +23,7 @@ class LinuxRegistryTest : public FolderTest {
 protected:
     LinuxRegistryTest() { qputenv("XDG_DATA_HOME", At("data").c_str()); }
 
-    std::string Entry(const std::string& name) const { return At("data/applications/" + name); }
+    std::string Entry(std::size_t at) const { return At("data/applications/" + std::to_string(at) + ".desktop"); }
     int Forget() const { return platform::ForgetApplication(QString::fromStdString(At("My Apps/K.app"))); }
 
     // Puts a tool of this name alone in the PATH.
@@ -48,34 +48,31 @@ TEST_F(LinuxRegistryTest, DropsTheEntriesOfTheFolderAndNoOther) {
         {head + "Exec=/usr/bin/open \"" + app + "/bin/x\"\n", false},
         {head + "Exec=x\n[Desktop Action a]\nExec=\"" + app + "/bin/x\"\n", false},
         {"[Something Else]\nExec=\"" + app + "/bin/x\"\n", false},
-        {head + "TryExec=/usr/bin/x\nIcon=" + app + "/x.png\n", false},
-        {head + "#Exec=\"" + app + "/bin/x\"\n", false}};
+        {head + "TryExec=/usr/bin/x\nIcon=" + app + "/x.png\n#Exec=" + app + "/bin/x\n", false}};
     for (std::size_t at = 0; at < std::size(entries); ++at) {
-        Write(Entry(std::to_string(at) + ".desktop"), entries[at].first);
+        Write(Entry(at), entries[at].first);
     }
-    Write(Entry("not-an-entry.txt"), ours);
-    EXPECT_EQ(Forget(), 0);
-    EXPECT_EQ(Forget(), 0);
+    Write(At("data/applications/not-an-entry.txt"), ours);
+    EXPECT_EQ(Forget() + Forget(), 0);
     for (std::size_t at = 0; at < std::size(entries); ++at) {
-        EXPECT_NE(fs::exists(Entry(std::to_string(at) + ".desktop")), entries[at].second) << entries[at].first;
+        EXPECT_NE(fs::exists(Entry(at)), entries[at].second) << entries[at].first;
     }
-    EXPECT_TRUE(fs::exists(Entry("not-an-entry.txt")));
+    EXPECT_TRUE(fs::exists(At("data/applications/not-an-entry.txt")));
     EXPECT_EQ(Read(At("refreshed")), At("data/applications") + "\n") << "once, as the second time nothing is dropped";
 
     // The status is the tool's, and no tool is no failure.
     for (const auto& [script, status] : {std::pair("exit 3\n", 3), {"kill -9 $$\n", -2}, {nullptr, 0}}) {
         script != nullptr ? InstallTool(script) : static_cast<void>(fs::remove_all(At("bin")));
-        Write(Entry("0.desktop"), ours);
+        Write(Entry(0), ours);
         EXPECT_EQ(Forget(), status);
     }
 }
 
 TEST_F(LinuxRegistryTest, WhatCannotBeStartedIsANo) {
+    InstallTool("");
     Write(At("text"), "no program");
-    Write(At("bad"), "#!/no/such/interpreter\n");
-    fs::permissions(At("bad"), static_cast<fs::perms>(0755));
-    fs::create_directories(At("folder"));
-    for (const char* name : {"absent", "text", "bad", "folder"}) {
+    Write(At("bin/update-desktop-database"), "#!/no/such/interpreter\n");
+    for (const char* name : {"absent", "text", "bin/update-desktop-database", "bin"}) {
         EXPECT_FALSE(platform::StartApplication(QString::fromStdString(folder()), QString::fromStdString(At(name))));
     }
 }

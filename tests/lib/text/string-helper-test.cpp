@@ -5,7 +5,6 @@
 #include "test-folder.h"
 
 using kelvanequay::utils::StringHelper;
-using Items = std::list<std::string>;
 
 namespace {
 
@@ -22,10 +21,10 @@ TEST_F(StringHelperTest, NormalizesAndConvertsAsQtDoes) {
         std::generate(chosen.begin(), chosen.end(), [&] { return points[random() % points.size()]; });
         const QString text = QString::fromStdU32String(chosen);
         const std::string narrow = text.toStdString();
-        const QString composed = text.normalized(QString::NormalizationForm_C);
-        const QString decomposed = text.normalized(QString::NormalizationForm_D);
-        EXPECT_EQ(StringHelper::Normalize(narrow, StringHelper::NFC), composed.toStdString());
-        EXPECT_EQ(StringHelper::Normalize(narrow, StringHelper::NFD), decomposed.toStdString());
+        EXPECT_EQ(StringHelper::Normalize(narrow, StringHelper::NFC),
+                  text.normalized(QString::NormalizationForm_C).toStdString());
+        EXPECT_EQ(StringHelper::Normalize(narrow, StringHelper::NFD),
+                  text.normalized(QString::NormalizationForm_D).toStdString());
         std::u16string wide;
         std::string back;
         EXPECT_EQ(0, StringHelper::ConvertStringToWstring(narrow, wide));
@@ -39,19 +38,18 @@ TEST_F(StringHelperTest, NormalizesAndConvertsAsQtDoes) {
 TEST_F(StringHelperTest, MalformedTextWarnsOnce) {
     std::u16string wide = u"old";
     std::string narrow = "old";
+    const auto warning = [](const std::function<int()>& convert) {
+        return StandardErrorOf([&] { EXPECT_EQ(-1, convert()); });
+    };
     for (const char* text : {"\xFF", "a\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
-        const std::string warnings = StandardErrorOf([&] {
-            EXPECT_EQ("", StringHelper::Normalize(text, StringHelper::NFC));
-            EXPECT_EQ(-1, StringHelper::ConvertStringToWstring(text, wide));
-        });
-        EXPECT_EQ(0U, warnings.find("Warning: u_strFromUTF8: error code 10 at line ")) << warnings;
-        EXPECT_EQ(2, std::count(warnings.begin(), warnings.end(), '\n')) << "one line each: " << warnings;
+        const std::string told = warning([&] { return StringHelper::ConvertStringToWstring(text, wide); });
+        EXPECT_EQ(0U, told.find("Warning: u_strFromUTF8: error code 10 at line "));
+        EXPECT_EQ(told, warning([&] { return -1 - StringHelper::Normalize(text, StringHelper::NFC).compare(""); }));
         EXPECT_FALSE(StringHelper::IsValid(text));
     }
     const std::u16string half(1, char16_t{0xD800});
-    const std::string warning =
-        StandardErrorOf([&] { EXPECT_EQ(-1, StringHelper::ConvertWstringToString(half, narrow)); });
-    EXPECT_EQ(0U, warning.find("Warning: u_strToUTF8: error code 10 at line "));
+    const std::string told = warning([&] { return StringHelper::ConvertWstringToString(half, narrow); });
+    EXPECT_EQ(0U, told.find("Warning: u_strToUTF8: error code 10 at line "));
     EXPECT_EQ(std::tuple(wide, narrow), std::tuple(u"old", "old"));
 }
 
@@ -60,18 +58,18 @@ TEST_F(StringHelperTest, TrimJoinSplitAndFormat) {
              {"abc\r\n ", "abc"}, {"  a b ", "  a b"}, {"abc", "abc"}, {"\n \n", "\n \n"}}) {
         std::string copy = text;
         StringHelper::Rtrim(copy, " \n\r");
-        EXPECT_EQ(trimmed, copy) << text;
+        EXPECT_EQ(trimmed, copy);
     }
+    std::string joined;
     for (const std::string text : {"", "a", ",a", "a,,b", "a,", ","}) {
-        Items items = {"kept"};
+        std::list<std::string> items = {"kept"};
         StringHelper::Split(items, text, ',');
-        // Nothing follows a final separator.
-        const std::string rest = text.empty() || text.back() != ',' ? text : text.substr(0, text.size() - 1);
-        EXPECT_EQ("kept" + std::string(text.empty() ? "" : ",") + rest, StringHelper::Join(items, ',')) << text;
+        joined += StringHelper::Join(items, ';') + " ";
     }
-    EXPECT_EQ("100%", StringHelper::GetFormatTime("100%%"));
-    EXPECT_EQ(std::string(63, 'x'), StringHelper::GetFormatTime(std::string(63, 'x').c_str()));
-    EXPECT_EQ("", StringHelper::GetFormatTime(std::string(64, 'x').c_str()));
+    EXPECT_EQ(joined, "kept kept;a kept;;a kept;a;;b kept;a kept; ") << "nothing follows a final separator";
+    const std::string longest(63, 'x');
+    EXPECT_EQ("100%" + longest, StringHelper::GetFormatTime("100%%") + StringHelper::GetFormatTime(longest.c_str()));
+    EXPECT_EQ("", StringHelper::GetFormatTime((longest + "x").c_str()));
 }
 
 }  // namespace

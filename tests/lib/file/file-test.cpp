@@ -1,7 +1,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <cstring>
 #include <fstream>
 #include <regex>
 #include <set>
@@ -40,67 +39,15 @@ protected:
     }
 };
 
-// What an operation of the library does to a tree, the standard library does to another.
-TEST_F(FileTest, TreesChangeAsUnderTheStandardLibrary) {
-    std::mt19937 random(7);
-    const auto path = [&] {
-        std::string text;
-        for (auto depth = random() % 3 + 1; depth > 0; --depth) {
-            text += std::string("/") + "aBc"[random() % 3];
-        }
-        return text;
-    };
-    for (int step = 0; step < 1500; ++step) {
-        if (step % 50 == 0) {
-            fs::remove_all("ours");
-            fs::remove_all("theirs");
-            fs::create_directory("ours");
-            fs::create_directory("theirs");
-        }
-        const auto operation = random() % 7;
-        const std::string one = path();
-        const std::string two = path();
-        const auto [ours, oursTo] = std::pair("ours" + one, "ours" + two);
-        const auto [theirs, theirsTo] = std::pair("theirs" + one, "theirs" + two);
-        SCOPED_TRACE(std::to_string(operation) + " " + one + " " + two);
-        std::error_code error;
-        if (operation == 0 && !fs::exists(theirs, error)) {
-            Write("new", std::to_string(step) + std::string(random() % 3 * 8192, 'x'));
-            Told(FSCopy, "new", ours, false, false);
-            std::ofstream(theirs) << std::ifstream("new").rdbuf();
-        } else if (operation == 1 && fs::is_regular_file(theirs, error) && !fs::equivalent(theirs, theirsTo, error)) {
-            Told(FSCopy, ours, oursTo, false, false);
-            std::ofstream(theirsTo) << std::ifstream(theirs).rdbuf();
-        } else if (operation == 2) {
-            fs::rename(theirs, theirsTo, error);
-            EXPECT_EQ(Told(FSRename, ours, oursTo, false)[0] == '0', !error) << error.message();
-        } else if (operation == 3) {
-            fs::remove_all(theirs, error);
-            Told(FSRemove, ours, false);
-        } else if (operation == 4 || operation == 5) {
-            operation == 4 ? fs::create_directories(theirs, error) : fs::create_directory(theirs, error);
-            EXPECT_EQ(Told(FSMKDir, ours, operation == 4)[0] == '0',
-                      fs::is_directory(fs::symlink_status(theirs, error)));
-        } else if (operation == 6) {
-            fs::create_symlink(&two[1], theirs, error);
-            EXPECT_EQ(Told(FSCreateSymbolicLink, &two[1], ours)[0] == '0', !error);
-        }
-        ASSERT_EQ(ReadTree("ours"), ReadTree("theirs"));
-        ASSERT_FALSE(HasFailure());
-    }
-}
-
 TEST_F(FileTest, ResultsAndTheirWords) {
-    Write("file", "text");
-    Write("full/x", "");
-    Write("replaced", "");
-    fs::create_directory("dir");
+    for (const char* name : {"file", "full/x", "replaced", "dir/x"}) {
+        Write(name, "text");
+    }
     fs::create_directory_symlink("dir", "to-dir");
     fs::create_symlink("nowhere", "dangling");
     const std::string noFolder = "-1 [ERROR] FSMKDir: Create a folder but local file system is not directory '";
     const std::string noFile = "No such file or directory";
     const std::string inWay = "[INFO] FSMKDirP: path: file is ";
-    const std::string slashes(4092, '/');
     std::string text = "old";
     std::string path;
     DIR_HANDLE handle;
@@ -109,17 +56,41 @@ TEST_F(FileTest, ResultsAndTheirWords) {
         const int result = FSMKDirP(in, &end, replace, kNoDirMode) == 0 ? 0 : errno;
         return result * 100 + static_cast<int>(end - in.c_str());  // and how far it came
     };
+    std::string parts;
+    for (const char* whole : {"/a/b", "/a/b/", "abc", "/abc"}) {
+        parts += FSParentPath(whole) + " " + FSBaseName(whole) + ",";
+    }
+    std::string parents;
+    for (const auto& [parent, child] : {std::pair("/a", "/a/b"),
+                                        {"/a", "/a"},
+                                        {"", "/a"},
+                                        {"/a", "/ab"},
+                                        {"/a/", "/a/b"},
+                                        {"/a/b", "/a"},
+                                        {"/a", "/b/c"},
+                                        {"", "a"}}) {
+        parents += FSIsParentFolder(parent, child) ? '1' : '0';
+    }
     LogUpTo(Logger::LEVEL_INFO);
     const std::pair<std::string, std::string> cases[] = {
         {Told(FSCopy, "no/x", "new", false, false), "-1 [ERROR] CopyFile: open(no/x): " + noFile + " (2)\n"},
         {Told(FSCopy, "file", "no/x", true, false), "-1 [ERROR] CopyFile: open(no/x): " + noFile + " (2)\n"},
         {Told(FSCopy, "dir", "new", false, false), "-1 [ERROR] CopyFile: read: Is a directory (21)\n"},
         {Told(FSCopy, "file", "/dev/full", true, false), "-2 [ERROR] CopyFile: write: No space left on device (28)\n"},
-        {Told(FSRename, "", "new", false) + Told(FSRename, "file", "", false), "-1-1"},
-        {Told(FSRename, "no/x", "new", false) + Told(FSRename, At("to-dir/../file"), "new", true), "-2-2"},
-        {Told(FSRename, "file", std::string(300, 'n'), false) + Told(FSRename, "dir", "full", false), "-100-3"},
-        {Told(FSRemove, "", false) + Told(FSRemove, "file/a", false) + Told(FSRemove, "no/x", false), "-1-10"},
-        {Told(FSRemove, "/proc/self/comm", false) + Told(FSRemove, "/proc/self/task", false), "-3-3"},
+        {Told(FSRename, "", "new", false) + Told(FSRename, "file", "", false) + Told(FSRename, "no/x", "new", false) +
+             Told(FSRename, At("to-dir/../file"), "new", true) + Told(FSRename, "dir", "full", false) +
+             Told(FSRename, "file", std::string(300, 'n'), false),
+         "-1-1-2-2-3-100"},
+        {Told(FSRemove, "", false) + Told(FSRemove, "file/a", false) + Told(FSRemove, "no/x", false) +
+             Told(FSRemove, "/proc/self/comm", false) + Told(FSRemove, "/proc/self/task", false),
+         "-1-10-3-3"},
+        {Told(walk, "//", false) + Told(walk, "d//e/", false) + Told(walk, "dangling/x", false) +
+             Told(walk, "replaced/h", true) + Told(FSMKDirP, "", nullptr, false, kNoDirMode),
+         "14170810-1"},
+        {Told(isFileLocked, "file", X_OK) + Told(isFileLocked, "file", R_OK) + Told(isFileLocked, "no", X_OK) +
+             Told(hasFilePermission, "file", X_OK) + Told(hasFilePermission, "no", R_OK),
+         "10001"},
+        {parts + parents, "/a b,/a/b ,/ abc,/ abc,11100000"},
         {Told(FSFsync, "file") + Told(FSFsync, "no/x"), "01"},
         {Told(FSFsync, "file/a"), "-1 [ERROR] FSFsync: open(file/a): Not a directory (20)\n"},
         {Told(FSFsync, "/dev/null"), "-1 [ERROR] FSFsync: fsync(/dev/null): Invalid argument (22)\n"},
@@ -134,18 +105,14 @@ TEST_F(FileTest, ResultsAndTheirWords) {
          "-1 [ERROR] Giving a root '/long' whose length is larger then target's '/l'.\n"},
         {Told(FSMKDirFromRoot, "/abc/d", "/ab"), "-1 [ERROR] root '/ab' is not a parent folder of target '/abc/d'\n"},
         {Told(FSMKDirFromRoot, "full/x/c", "full"), noFolder + "full/x' (1)\n"},
-        {Told(walk, "//", false), "1"},
-        {Told(walk, "d//e/", false), "4"},
         {Told(walk, "file/", false), "1704 " + inWay + "existing file or symbolic link pointed to file\n"},
         {Told(walk, "file/f/g", false), "2006 " + inWay + "symbolic link pointed to folder\n"},
-        {Told(walk, "dangling/x", false), "1708"},
-        {Told(walk, "replaced/h", true), "10"},
-        {Told(FSMKDirP, "", nullptr, false, kNoDirMode), "-1"},
         {Told(FSOpenDir, "no/x", 1, handle), "-1 [ERROR] FSOpenDir: Failed to open directory 'no/x'. " + noFile + "\n"},
         {Told(isMountPoint, "no"), "0 [ERROR] isMountPoint: Failed to get file system info 'no'. " + noFile + "\n"},
         {Told(IsMSDOS, "no"), "0 [ERROR] IsSupportLargeFile: Failed to get file system info 'no'. " + noFile + "\n"},
-        {Told(isMountPoint, "/proc") + Told(IsMSDOS, "/") + Told(FSUTime, "no", 0, 0) + Told(FSGetRealPath, text),
-         "00-1-1"},
+        {Told(isMountPoint, "/proc") + Told(IsMSDOS, "/") + Told(FSUTime, "no", 0, 0) + Told(FSGetRealPath, text) +
+             Told(FSTimeEqual, 5, 5) + Told(FSTimeEqual, 5, 5 + (std::int64_t{1} << 32)),
+         "00-1-110"},
         {Told(FSReadSymbolicLink, "file", text),
          "-1 [ERROR] FSReadSymbolicLink: Failed to read symbolic link 'file' (code: 22, msg: Invalid argument)\n"},
         {Told(FSCreateSymbolicLink, "x", "file"),
@@ -154,30 +121,11 @@ TEST_F(FileTest, ResultsAndTheirWords) {
         {Told(FSChmod, "no", 0600), "-1 [ERROR] FSChmod: Failed to chmod 'no' (code: 2, msg: " + noFile + ")\n"},
         {Told(FSChown, "no", 0, 0), "-1 [ERROR] FSChown: Failed to chown 'no' (code: 2, msg: " + noFile + ")\n"},
         {Told(FSMktemp, "no", text).substr(0, 22), "-1 [ERROR] mkstemp(no/"},
-        {Told(FSMktemp, slashes, text).substr(0, 21), "-1 [ERROR] mkstemp(//"},
-        {Told(isFileLocked, "file", X_OK) + Told(isFileLocked, "file", R_OK) + Told(isFileLocked, "no", X_OK), "100"},
-        {Told(hasFilePermission, "file", X_OK) + Told(hasFilePermission, "no", R_OK), "01"},
-        {FSParentPath("/a/b") + FSParentPath("/a/b/") + FSParentPath("abc") + FSParentPath("/abc"), "/a/a/b//"},
-        {FSBaseName("/a/b") + FSBaseName("/a/b/") + FSBaseName("abc") + FSBaseName("/abc"), "babcabc"},
-        {Told(FSIsParentFolder, "/a", "/a/b") + Told(FSIsParentFolder, "/a", "/a") + Told(FSIsParentFolder, "", "/a"),
-         "111"},
-        {Told(FSIsParentFolder, "/a", "/ab") + Told(FSIsParentFolder, "/a/", "/a/b") +
-             Told(FSIsParentFolder, "/a/b", "/a"),
-         "000"},
-        {Told(FSIsParentFolder, "/a", "/b/c") + Told(FSIsParentFolder, "", "a") + Told(FSTimeEqual, 5, 5), "001"},
         {Told(FSCreateTempPath, std::string("/x\0y", 4), path), "0"}};
     for (const auto& [told, expected] : cases) {
         EXPECT_EQ(told, expected);
     }
     EXPECT_EQ(text + handle.path + FSParentPath(path), "old/x");
-    EXPECT_EQ(0U, TmpNameGen::getInstance().getTmpPath("/x/").find("/x//"));
-    std::string left;
-    for (const auto& [name, description] : ReadTree(".")) {
-        left += name + (description == "755 folder" ? "/ " : " ");
-    }
-    EXPECT_EQ(
-        left,
-        "1/ 1/2/ 1/2/3/ d/ d/e/ dangling dir/ dir/a/ dir/a/b/ file full/ full/x new replaced/ replaced/h/ to-dir ");
     LogUpTo(Logger::LEVEL_WARNING);
 }
 
@@ -207,11 +155,12 @@ TEST_F(FileTest, OverAVolumeBorder) {
     const Volume volume(Volume::Tmpfs, At("volume"), 1 << 20);
     KQ_NEED(volume);
     for (int number = 0; number < 40; ++number) {
-        Write("dir/sub/" + std::to_string(number), "x");
+        Write("dir/sub/" + std::to_string(number), std::string(static_cast<std::size_t>(number) * 500, 'x') + "end");
     }
     fs::permissions("dir/sub/1", fs::perms::all);
     fs::create_directory("dir/empty");
-    const Tree all = ReadTree("dir");
+    Tree moved = ReadTree("dir");
+    moved["sub/1"].replace(0, 3, "644");
     // What can't be moved ends the move; what was moved stays so, and a second attempt takes the rest.
     fs::create_symlink("nowhere", "dir/sub/link");
     EXPECT_EQ("-3", Told(FSRename, "dir", "volume/dir", false));
@@ -219,8 +168,6 @@ TEST_F(FileTest, OverAVolumeBorder) {
     fs::remove("dir/sub/link");
     EXPECT_EQ("0", Told(FSRename, At("dir"), "volume/dir", true));
     EXPECT_FALSE(fs::exists("dir"));
-    Tree moved = all;
-    moved["sub/1"] = "644 file x";
     EXPECT_EQ(ReadTree("volume/dir"), moved);
     // A full disk is a failed move like any other, and so is a file in a folder's way.
     Write("dir/big", std::string(2 << 20, 'b'));
@@ -230,16 +177,19 @@ TEST_F(FileTest, OverAVolumeBorder) {
 }
 
 TEST_F(FileTest, TemporaryNamesFromEightThreads) {
-    std::vector<std::vector<std::string>> names(8, std::vector<std::string>(50000));
+    std::vector<std::set<std::string>> names(8);
     std::vector<std::thread> threads;
-    for (std::vector<std::string>& own : names) {
-        threads.emplace_back(
-            [&own] { std::generate(own.begin(), own.end(), [] { return TmpNameGen::getInstance().getTmpName(); }); });
+    for (std::set<std::string>& own : names) {
+        threads.emplace_back([&own] {
+            for (int at = 0; at < 50000; ++at) {
+                own.insert(TmpNameGen::getInstance().getTmpName());
+            }
+        });
     }
     std::set<std::string> all;
     for (std::size_t at = 0; at < threads.size(); ++at) {
         threads[at].join();
-        all.insert(names[at].begin(), names[at].end());
+        all.merge(names[at]);
     }
     EXPECT_EQ(all.size(), 400000U);
     const std::regex form("[-_0-9a-zA-Z]{8}");
@@ -255,7 +205,7 @@ TEST_F(FileTest, TheRecordIsThatOfLstat) {
     const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
-    std::strcpy(address.sun_path, "socket");
+    address.sun_path[0] = 's';
     ASSERT_EQ(0, bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof(address)));
     close(socket);
     std::map<std::string, DIR_ENTRY> listed;
@@ -268,7 +218,7 @@ TEST_F(FileTest, TheRecordIsThatOfLstat) {
     FSCloseDir(handle);
     EXPECT_EQ(nullptr, handle.dir);
     const std::pair<std::string, std::int32_t> cases[] = {{At("regular"), 1}, {At("directory"), 2}, {At("symlink"), 3},
-                                                          {At("fifo"), 6},    {At("socket"), 7},    {"/dev/null", 5},
+                                                          {At("fifo"), 6},    {At("s"), 7},         {"/dev/null", 5},
                                                           {"/", 2},           {At("absent"), 0}};
     for (const auto& [path, type] : cases) {
         struct stat status = {};
@@ -290,13 +240,8 @@ TEST_F(FileTest, TheRecordIsThatOfLstat) {
     other.uid = other.gid = other.mode = 1;
     other.dev = 1;
     EXPECT_TRUE(info == other && !(info != other));
-    for (const auto& change : std::vector<std::function<void()>>{[&] { info.exist = true; }, [&] { info.size = 9; },
-                                                                 [&] { info.mtime = 9; }, [&] { info.type = 9; },
-                                                                 [&] { info.path = "p"; }, [&] { info.name = "n"; }}) {
-        info = other;
-        change();
-        EXPECT_TRUE(info != other && !(info == other));
-    }
+    other.size = 1;
+    EXPECT_TRUE(info != other && !(info == other));
 }
 
 TEST_F(FileTest, ExactSpelling) {
@@ -365,7 +310,6 @@ TEST_F(FileTest, OfALinkItsOwn) {
     EXPECT_EQ(2000, info.mtime);
     EXPECT_EQ(0, GetFileInfo("file", info));
     EXPECT_EQ(5, info.mtime) << "the low 32 bits";
-    EXPECT_FALSE(FSTimeEqual(5, 5 + (std::int64_t{1} << 32)));
     EXPECT_EQ(0, FSChmod("link", 0604));
     EXPECT_EQ(ReadTree(".")["file"], "604 file ");
     KQ_NEED(Ability::Root);

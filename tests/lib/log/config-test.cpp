@@ -57,11 +57,9 @@ TEST_F(ConfigTest, OddFiles) {
     for (const char* text : {"", "\n   # comment\n#", "key#anything\n", "  key"}) {
         EXPECT_EQ(Held(text), "") << text;
     }
-    for (const char* text :
-         {"key\n",         "key ",      "key #anything\n",    "key value\n",    "key!=1\n",      "k\xC3\xBCy=1\n",
-          "key=\n",        "key=",      "key=   # comment\n", "key=a b\n",      "key=a\x7F\n",   "key=\x1F\n",
-          "key=\"a\" b\n", "key=\"a\n", "key=\"a'\n",         "key=\"a\tb\"\n", "key=\"a\"\"\n", "\"key\"=a\n",
-          "a=1\nbad\n",    "bad\na=1\n"}) {
+    for (const char* text : {"key\n", "key ", "key value\n", "key!=1\n", "k\xC3\xBCy=1\n", "key=\n",
+                             "key=", "key=  # c\n", "key=a b\n", "key=a\x7F\n", "key=\x1F\n", "key=\"a\" b\n",
+                             "key=\"a\n", "key=\"a'\n", "key=\"a\tb\"\n", "\"key\"=a\n", "a=1\nbad\n", "bad\na=1\n"}) {
         EXPECT_EQ(Held(text), "!") << text;
     }
     EXPECT_EQ(Held("=a\nB=2\n=3\n"), "=3;B=2;") << "the later one stands";

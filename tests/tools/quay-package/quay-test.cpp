@@ -2,36 +2,44 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <filesystem>
 
 #include "tools/quay-package/package-check.h"
 #include "tools/quay-package/rules.h"
 #include "tools/quay-package/zip.h"
 
-namespace fs = std::filesystem;
-
-Outcome QuayTest::Run(const std::vector<std::string>& arguments) const {
-    std::vector<std::string> all = {tool_};
-    all.insert(all.end(), arguments.begin(), arguments.end());
-    return RunProcess(all, environment_);
+Lines QuayTest::Words(const std::string& line) const {
+    Lines words = {tool_};
+    for (const QString& part : QProcess::splitCommand(QString::fromStdString(line))) {
+        const std::string word = part.toStdString();
+        words.push_back(word[0] == '@' ? At(word.substr(1)) : word == "LAUNCHER" ? KQ_LAUNCHER : word);
+    }
+    return words;
 }
 
-QJsonObject QuayTest::RunJson(std::vector<std::string> arguments, int exitCode) const {
-    arguments.insert(arguments.begin(), "--json");
-    const Outcome outcome = Run(arguments);
-    EXPECT_EQ(outcome.exitCode, exitCode) << outcome.output << outcome.errors;
+void QuayTest::Succeed(const std::string& line) const {
+    const Outcome outcome = Run(line);
+    EXPECT_EQ(outcome.exitCode, 0) << line << "\n" << outcome.output << outcome.errors;
+}
+
+QJsonObject QuayTest::RunJson(const std::string& line, int exitCode) const {
+    const Outcome outcome = Run("--json " + line);
+    EXPECT_EQ(outcome.exitCode, exitCode) << line << "\n" << outcome.output << outcome.errors;
     const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
     const char* const results[] = {"good", "defects", "error"};
-    EXPECT_EQ(object.value(QStringLiteral("schema")).toInt(), 1) << outcome.output;
-    EXPECT_EQ(object.value(QStringLiteral("result")).toString().toStdString(), results[exitCode]);
-    EXPECT_EQ(object.value(QStringLiteral("error")).isNull(), exitCode != 2);
+    EXPECT_EQ(Value(object, "schema"), "1") << outcome.output;
+    EXPECT_EQ(Value(object, "result"), results[exitCode]);
+    EXPECT_EQ(Value(object, "error").empty(), exitCode != 2);
     return object;
 }
 
-Codes QuayTest::CodesOf(const QJsonObject& object) {
+std::string QuayTest::Value(const QJsonObject& object, const char* key) {
+    return object.value(QLatin1String(key)).toVariant().toString().toStdString();
+}
+
+Codes QuayTest::CodesOf(const QJsonObject& object, const char* key) {
     Codes codes;
-    for (const QJsonValue& finding : object.value(QStringLiteral("findings")).toArray()) {
-        codes.insert(finding.toObject().value(QStringLiteral("code")).toString().toStdString());
+    for (const QJsonValue& finding : object.value(QLatin1String(key)).toArray()) {
+        codes.insert(Value(finding.toObject(), "code"));
     }
     return codes;
 }
@@ -44,10 +52,8 @@ Codes QuayTest::CodesOf(const Findings& findings) {
     return codes;
 }
 
-Codes QuayTest::Check(const std::string& operand, const std::vector<std::string>& options) const {
-    std::vector<std::string> arguments = {"check", operand, "--json"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const Outcome outcome = Run(arguments);
+Codes QuayTest::Check(const std::string& operand) const {
+    const Outcome outcome = Run("check --json " + operand);
     const Codes codes = CodesOf(QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object());
     EXPECT_EQ(outcome.exitCode, codes.empty() ? 0 : 1) << outcome.output << outcome.errors;
     return codes;
@@ -67,8 +73,7 @@ std::vector<Entry> QuayTest::GoodEntries() {
 }
 
 std::string QuayTest::Zip(std::vector<Entry> entries) const {
-    const std::string path = At("made.kpk");
-    QFile file(QString::fromStdString(path));
+    QFile file(QString::fromStdString(At("made.kpk")));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     ZipWriter writer(file, 315532800);
     for (Entry& entry : entries) {
@@ -77,7 +82,7 @@ std::string QuayTest::Zip(std::vector<Entry> entries) const {
     }
     EXPECT_FALSE(writer.Finish());
     file.close();
-    return Read(path);
+    return Read(At("made.kpk"));
 }
 
 Codes QuayTest::CheckBytes(const std::string& bytes) const {
@@ -89,24 +94,26 @@ Codes QuayTest::CheckBytes(const std::string& bytes) const {
     return CodesOf(findings);
 }
 
-std::string QuayTest::MakeClient(const std::string& name, int build) const {
+std::string MachO() {
+    // A load command of 72 bytes that names a segment of 4 bytes behind it.
+    std::string bytes("\xcf\xfa\xed\xfe\7\0\0\1\3\0\0\0\2\0\0\0\1\0\0\0\x48\0\0\0\0\0\0\0\0\0\0\0\x19\0\0\0\x48", 37);
+    bytes.resize(108);
+    bytes[72] = 104;
+    bytes[80] = 4;
+    return bytes;
+}
+
+void QuayTest::MakeClient(int build) const {
     ClientTree(build);
-    fs::copy(At("expected-" + std::to_string(build)), At(name),
+    fs::remove_all(At("client"));
+    fs::copy(At("expected-" + std::to_string(build)), At("client"),
              fs::copy_options::recursive | fs::copy_options::copy_symlinks);
-    return At(name);
 }
 
-std::string QuayTest::MakePackage(const std::string& client, int build) const {
-    const std::string package = client + ".kpk";
-    const Outcome outcome = Run({"pack", client, "-o", package, "--build", std::to_string(build)});
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.output << outcome.errors;
-    return package;
-}
-
-std::string QuayTest::MakeBundle(const std::string& package) const {
-    const Outcome outcome = Run({"bundle", "--launcher", KQ_LAUNCHER, "--package", package, "-o", At("bundle")});
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.output << outcome.errors;
-    return At("bundle");
+void QuayTest::MakeBundle(int build) const {
+    MakeClient(build);
+    Pack(build);
+    Succeed("bundle --launcher LAUNCHER --package @client.kpk -o @bundle");
 }
 
 std::set<std::string> QuayTest::Names(const std::string& folder) {

@@ -1,4 +1,4 @@
-#include "bundle-check.h"
+#include "checks.h"
 
 #include <algorithm>
 #include <map>

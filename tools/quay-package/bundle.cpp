@@ -5,11 +5,12 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "bundle-check.h"
+#include "checks.h"
 #include "commands.h"
 #include "files.h"
 #include "platform/exchange.h"
 #include "product-layout.h"
+#include "progress.h"
 #include "text.h"
 
 namespace fs = std::filesystem;

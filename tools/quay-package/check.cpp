@@ -3,9 +3,8 @@
 #include <QStorageInfo>
 #include <QTemporaryDir>
 
-#include "bundle-check.h"
+#include "checks.h"
 #include "commands.h"
-#include "rehearsal.h"
 #include "text.h"
 
 namespace {

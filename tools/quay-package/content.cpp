@@ -57,8 +57,7 @@ bool IsWholeElf(const std::string& front, std::int64_t size) {
     return isWhole && loads;
 }
 
-constexpr std::uint64_t kMach = 0xfeedface;
-constexpr std::uint64_t kMach64 = 0xfeedfacf;
+constexpr std::uint64_t kMach64 = 0xfeedfacf;  // in the byte order of all processors that are left
 constexpr std::uint64_t kFat = 0xcafebabe;
 
 // The files for each kind of processor lie within the file.
@@ -73,22 +72,14 @@ bool IsWholeFat(const Numbers& numbers) {
 
 // Load commands, and the segments that they name, lie within the file.
 bool IsWholeMachO(const std::string& front, std::int64_t size) {
-    const std::uint64_t magic = Numbers(front, size, true).At(0, 4);
-    const Numbers numbers(front, size, magic == kMach || magic == kMach64 || magic == kFat);
-    if (magic == kFat) {
-        return IsWholeFat(numbers);
-    }
-    const bool is64 = numbers.At(0, 4) == kMach64;
-    const unsigned width = is64 ? 8 : 4;
-    std::uint64_t at = is64 ? 32 : 28;
+    const Numbers numbers(front, size, false);
+    std::uint64_t at = 32;
     std::uint64_t left = numbers.At(16, 4);
     bool isWhole = numbers.At(12, 4) == 2 && left > 0 && numbers.IsInFront(at, numbers.At(20, 4));
     for (; isWhole && left > 0; --left) {
         const std::uint64_t length = numbers.At(at + 4, 4);
-        const bool isSegment = numbers.At(at, 4) == (is64 ? 0x19U : 1U);
         isWhole = length >= 8 && numbers.IsInFront(at, length) &&
-                  (!isSegment ||
-                   numbers.IsInFile(numbers.At(at + 24 + 2 * width, width), numbers.At(at + 24 + 3 * width, width)));
+                  (numbers.At(at, 4) != 0x19 || numbers.IsInFile(numbers.At(at + 40, 8), numbers.At(at + 48, 8)));
         at += length;
     }
     return isWhole;
@@ -106,20 +97,23 @@ bool IsScript(const std::string& front) {
 
 bool BeginsAsProgram(const std::string& front) {
     const std::uint64_t magic = Numbers(front, 0, true).At(0, 4);
-    const std::uint64_t turned = Numbers(front, 0, false).At(0, 4);
-    return magic >> 16 == 0x2321 || magic == 0x7f454c46 || magic == kFat || magic == kMach || magic == kMach64 ||
-           turned == kMach || turned == kMach64;
+    return magic >> 16 == 0x2321 || magic == 0x7f454c46 || magic == kFat ||
+           Numbers(front, 0, false).At(0, 4) == kMach64;
 }
 
 Program Recognise(const std::string& front, std::int64_t size) {
     if (!BeginsAsProgram(front)) {
         return Program::None;
     }
-    switch (front[0]) {
-        case '#': return IsScript(front) ? Program::Script : Program::None;
-        case 0x7f: return IsWholeElf(front, size) ? Program::Elf : Program::None;
-        default: return IsWholeMachO(front, size) ? Program::MachO : Program::None;
+    if (front[0] == '#') {
+        return IsScript(front) ? Program::Script : Program::None;
     }
+    if (front[0] == 0x7f) {
+        return IsWholeElf(front, size) ? Program::Elf : Program::None;
+    }
+    const bool isFat = front.compare(0, 1, "\xca") == 0;
+    return (isFat ? IsWholeFat(Numbers(front, size, true)) : IsWholeMachO(front, size)) ? Program::MachO
+                                                                                        : Program::None;
 }
 
 bool PropertyListValue(const std::string& bytes, const std::string& key, std::string& value) {

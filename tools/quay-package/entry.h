@@ -37,11 +37,11 @@ struct ZipForm {
 struct Entry {
     std::string path;  // without trailing "/"
     Kind kind = Kind::Other;
-    unsigned mode = 0;      // permission bits, set-id bits included
-    std::int64_t size = 0;  // bytes of a file
-    std::string target;     // of a link
-    std::string content;    // of a file, as much as is looked at
-    ZipForm form;           // in a package alone
+    unsigned mode = 0;         // permission bits, set-id bits included
+    std::int64_t size = 0;     // bytes of a file
+    std::string target = {};   // of a link
+    std::string content = {};  // of a file, as much as is looked at
+    ZipForm form = {};         // in a package alone
 
     // In a folder alone: what changes with any change of it.
     std::uint64_t inode = 0;

@@ -7,13 +7,12 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "bundle-check.h"
+#include "checks.h"
 #include "commands.h"
 #include "file/file-op.h"
 #include "files.h"
 #include "log/config.h"
 #include "path-table.h"
-#include "rehearsal.h"
 #include "text.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 #include <algorithm>
 #include <cstdio>
@@ -10,6 +11,7 @@
 #include "commands.h"
 #include "files.h"
 #include "product-layout.h"
+#include "progress.h"
 #include "rules.h"
 #include "text.h"
 #include "zip.h"
@@ -19,17 +21,6 @@ namespace {
 // The times that a zip archive can tell: from 1980-01-01, the default, to the end of 2107.
 constexpr std::time_t kFirstTime = 315532800;
 constexpr std::time_t kLastTime = 4354819198;
-
-// What an option names, else what INFO has already, else "0".
-constexpr struct {
-    const char* option;
-    std::optional<std::string> VersionInfo::*field;
-} kVersionOptions[] = {
-    {"build", &VersionInfo::buildVersion},
-    {"major", &VersionInfo::majorVersion},
-    {"minor", &VersionInfo::minorVersion},
-    {"icon-overlay", &VersionInfo::iconOverlayVersion},
-};
 
 // One packing, from the folder to the output's place.
 class Packing {
@@ -58,12 +49,12 @@ private:
     Findings accepting_;  // none, but told what to accept
     bool keepAll_ = false;
     std::int64_t limit_ = 0;
+    std::int64_t bytes_ = 0;
     std::time_t time_ = kFirstTime;
     std::vector<std::uint64_t> marks_;  // of the folder's objects as they were looked at
     std::vector<Entry> entries_;        // the package
     VersionInfo versions_;
     std::string present_;  // the folder's INFO
-    std::int64_t bytes_ = 0;
 };
 
 Error Packing::TakeOptions() {
@@ -91,10 +82,9 @@ Error Packing::TakeOptions() {
     }
     Error error = line_.Take(report_.findings, limit_);
     keepAll_ = line_.IsSet("keep-all");
-    for (const Defect* leftover : {&defects::NameLitter, &defects::NameAppleDouble}) {
-        if (keepAll_ && !error) {
-            error = report_.findings.Accept(IdOf(*leftover));  // kept on purpose
-        }
+    if (keepAll_ && !error) {  // on purpose
+        error = report_.findings.Accept(IdOf(defects::NameLitter));
+        error = error ? error : report_.findings.Accept(IdOf(defects::NameAppleDouble));
     }
     accepting_ = report_.findings;
     return error;
@@ -160,18 +150,21 @@ std::string StampedInfo(const VersionInfo& versions, const std::string& present)
 // INFO goes behind everything, and the binary in front of it.
 Error Packing::Stamp() {
     Error error = ReadVersions(present_, versions_);
-    for (const auto& choice : kVersionOptions) {
-        std::optional<std::string>& value = versions_.*choice.field;
-        value = line_.Value(choice.option, value.value_or("").empty() ? "0" : *value);
-        if (value->empty() || value->find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ"
-                                                       "abcdefghijklmnopqrstuvwxyz.-_+") != std::string::npos) {
-            return Error(std::string("--") + choice.option + ": letters, digits and \".-_+\" are wanted");
+    for (const VersionKey& key : kVersionKeys) {
+        // What the key's option says, else what INFO has already, else "0".
+        const QString option = QString::fromLatin1(key.name)
+                                   .remove(QStringLiteral("_version"))
+                                   .replace(QLatin1Char('_'), QLatin1Char('-'));
+        std::optional<std::string>& value = versions_.*key.field;
+        value = line_.Value(option.toLatin1(), value.value_or("").empty() ? "0" : *value);
+        if (QRegularExpression(QStringLiteral("^[0-9A-Za-z.+_-]+$"))
+                .match(QString::fromStdString(*value))
+                .captured()
+                .size() != static_cast<int>(value->size())) {
+            return Error("--" + option.toStdString() + ": letters, digits and \".-_+\" are wanted");
         }
     }
-    Entry info;
-    info.path = kInfoFile;
-    info.kind = Kind::File;
-    info.mode = 0644;
+    Entry info{kInfoFile, Kind::File, 0644};
     info.content = StampedInfo(versions_, present_);
     info.size = static_cast<std::int64_t>(info.content.size());
     VersionInfo read;
@@ -184,10 +177,7 @@ Error Packing::Stamp() {
     }
     const auto is = [](const char* path) { return [path](const Entry& entry) { return entry.path == path; }; };
     if (std::none_of(entries_.begin(), entries_.end(), is(kResourcesFolder))) {
-        Entry& folder = entries_.emplace_back();
-        folder.path = kResourcesFolder;
-        folder.kind = Kind::Folder;
-        folder.mode = 0755;
+        entries_.push_back({kResourcesFolder, Kind::Folder, 0755});
     }
     const auto binary = std::find_if(entries_.begin(), entries_.end(), is(kClientFile));
     if (binary != entries_.end()) {

@@ -1,14 +1,14 @@
-#include "package-check.h"
+#include "checks.h"
 
-#include <archive.h>
 #include <archive_entry.h>
 
 #include <algorithm>
-#include <memory>
 #include <set>
 #include <unordered_set>
 
 #include "files.h"
+#include "posix/archive.h"
+#include "progress.h"
 #include "rules.h"
 #include "text.h"
 #include "zip.h"
@@ -16,11 +16,6 @@
 namespace {
 
 constexpr std::size_t kReaderBlock = 10240;  // Extractor's
-
-struct CloseReader {
-    void operator()(archive* handle) const { archive_read_free(handle); }
-};
-using Reader = std::unique_ptr<archive, CloseReader>;
 
 std::string Text(const char* text) {
     return text == nullptr ? std::string() : std::string(text);
@@ -35,7 +30,7 @@ bool IsSame(const Entry& entry, archive_entry* header) {
 }
 
 // Reads the data of the entry at whose header the reader stands. Adds what is wrong with it.
-Error ReadEntryData(const Reader& reader, const Entry& entry, const std::function<Error(std::string_view)>& take,
+Error ReadEntryData(const ArchiveReader& reader, const Entry& entry, const std::function<Error(std::string_view)>& take,
                     Findings& findings) {
     std::int64_t seen = 0;
     for (;;) {
@@ -58,12 +53,13 @@ Error ReadEntryData(const Reader& reader, const Entry& entry, const std::functio
     }
 }
 
-}  // namespace
-
+// Gives each entry's data to `take`, with its index, block by block, in the archive's order. What differs from the
+// entries is added to `findings`; nothing is read behind it.
+using TakeBlock = std::function<Error(std::size_t at, std::string_view block)>;
 Error ReadData(const Package& package, const char* label, const TakeBlock& take, Findings& findings) {
     Progress progress(label, package.bytes + static_cast<std::int64_t>(package.entries.size()));
     const std::size_t before = findings.Total();
-    const Reader reader(archive_read_new());
+    const ArchiveReader reader(archive_read_new());
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
     if (archive_read_open_filename(reader.get(), package.file.c_str(), kReaderBlock) != ARCHIVE_OK) {
@@ -91,6 +87,16 @@ Error ReadData(const Package& package, const char* label, const TakeBlock& take,
     return {};
 }
 
+// What is different about an object, but for its content; empty if nothing is.
+std::string Difference(const Entry& entry, const Entry& there) {
+    return there.kind != entry.kind       ? "it is of another kind"
+           : there.target != entry.target ? "it leads to \"" + there.target + "\""
+           : there.size != entry.size     ? std::to_string(there.size) + " bytes, not " + std::to_string(entry.size)
+                                          : "";
+}
+
+}  // namespace
+
 Error CheckPackage(const std::string& file, std::int64_t limit, Package& package, Findings& findings) {
     package.file = file;
     QFile archive;
@@ -117,18 +123,6 @@ Error CheckPackage(const std::string& file, std::int64_t limit, Package& package
     }
     return goesOn(error) ? CheckContents(package.entries, findings, package.versions, package.client) : error;
 }
-
-namespace {
-
-// What is different about an object, but for its content; empty if nothing is.
-std::string Difference(const Entry& entry, const Entry& there) {
-    return there.kind != entry.kind       ? "it is of another kind"
-           : there.target != entry.target ? "it leads to \"" + there.target + "\""
-           : there.size != entry.size     ? std::to_string(there.size) + " bytes, not " + std::to_string(entry.size)
-                                          : "";
-}
-
-}  // namespace
 
 Error Compare(const Package& package, const std::string& folder, const Differences& differences, Findings& findings) {
     std::unordered_set<std::string_view> known;

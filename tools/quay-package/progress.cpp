@@ -21,10 +21,7 @@ void Take(int number) {
 
 void TakeInterruptions() {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        struct sigaction action = {};
-        action.sa_handler = Take;
-        sigemptyset(&action.sa_mask);
-        sigaction(number, &action, nullptr);
+        std::signal(number, Take);
     }
 }
 

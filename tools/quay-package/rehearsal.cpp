@@ -1,4 +1,4 @@
-#include "rehearsal.h"
+#include "checks.h"
 
 #include <QFileInfo>
 #include <QObject>
@@ -10,6 +10,7 @@
 #include "mac/mac-service.h"
 #include "notify-adapter.h"
 #include "path-table.h"
+#include "progress.h"
 #include "resources/str-table.h"
 
 Error Rehearse(const Package& package, const std::string& bundle, const std::string& scratch, Findings& findings) {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "checks.h"
 #include "finding.h"
-#include "package-check.h"
 
 // The program's exit codes.
 inline constexpr int kExitGood = 0;

@@ -1,6 +1,6 @@
+#include "checks.h"
 #include "commands.h"
 #include "files.h"
-#include "package-check.h"
 #include "product-layout.h"
 #include "text.h"
 

@@ -171,33 +171,28 @@ bool DirectoryReader::ReadEnd() {
 bool DirectoryReader::CheckForm(const Entry& entry, const DirectoryHeader& header) {
     const ZipForm& form = entry.form;
     const bool isFolder = entry.kind == Kind::Folder;
-    const bool endsInSlash = form.name > entry.path.size();
     const unsigned copy = header.attributes >> 8 & 0xff;
-    const struct {
-        bool isBroken;
-        const char* detail;
-    } rules[] = {
-        {header.maker >> 8 != kUnix, "it was made on a system whose modes say nothing here"},
-        {form.needed > ZipForm().needed, "it needs a reader of a later version"},
-        {(form.flags & ~(kLevelBits | kUtf8)) != 0, "its flags"},
-        {!IsAscii(entry.path) && (form.flags & kUtf8) == 0, "its name does not say that it is UTF-8"},
-        {form.method != 0 && (form.method != kDeflated || entry.kind != Kind::File), "its way of packing"},
-        {form.method == 0 && form.packed != form.size, "its sizes differ"},
-        {isFolder && form.size != 0, "it is a folder and has data"},
-        {isFolder != endsInSlash, "its name says another kind than its mode"},
-        {header.comment != 0 || header.disk != 0, "it has a comment, or lies on another disk"},
-        {copy != 0 && copy != kNoCopy && copy != (entry.mode & 0xff), "its mode differs from the copy of it"},
-        {entry.path.find('\0') != std::string::npos, "its name has a zero byte"},
-        {std::max({std::uint32_t{form.packed}, std::uint32_t{form.size}, std::uint32_t{header.offset}}) ==
-             kLargestPackage,
-         "it has the large form"},
-    };
+    const bool isPlain =
+        header.maker >> 8 == kUnix && form.needed <= ZipForm().needed && header.comment == 0 && header.disk == 0 &&
+        (form.flags & ~(kLevelBits | kUtf8)) == 0 && (IsAscii(entry.path) || (form.flags & kUtf8) != 0) &&
+        (form.method == 0 ? form.packed == form.size : form.method == kDeflated && entry.kind == Kind::File) &&
+        std::max({std::uint32_t{form.packed}, std::uint32_t{form.size}, std::uint32_t{header.offset}}) <
+            kLargestPackage;
+    // A folder is one by its name as well, and has no data; a mode is like its copy.
+    const bool isConsistent = isFolder == (form.name > entry.path.size()) && (!isFolder || form.size == 0) &&
+                              (copy == 0 || copy == kNoCopy || copy == (entry.mode & 0xff)) &&
+                              entry.path.find('\0') == std::string::npos;
     if ((form.flags & kEncrypted) != 0 || entry.kind == Kind::Other) {
         return Refuse(entry.kind == Kind::Other ? defects::SpecialFile : defects::Encrypted, entry.path, "");
     }
-    const auto* broken =
-        std::find_if(std::begin(rules), std::end(rules), [](const auto& rule) { return rule.isBroken; });
-    return broken == std::end(rules) || Refuse(defects::OddForm, entry.path, broken->detail);
+    return (isPlain && isConsistent) || Refuse(defects::OddForm, entry.path,
+                                               QStringLiteral("made by %1, for %2, flags %3, method %4, attributes %5")
+                                                   .arg(header.maker)
+                                                   .arg(form.needed)
+                                                   .arg(form.flags)
+                                                   .arg(form.method)
+                                                   .arg(header.attributes, 0, 16)
+                                                   .toStdString());
 }
 
 // The local header, which must stand where the entry before has ended, and say what the directory says.

@@ -2,7 +2,7 @@
 #include <sys/stat.h>
 
 #include "quay-test.h"
-#include "tools/quay-package/bundle-check.h"
+#include "tools/quay-package/checks.h"
 #include "tools/quay-package/rules.h"
 #include "volume.h"
 

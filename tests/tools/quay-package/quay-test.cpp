@@ -3,7 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "tools/quay-package/package-check.h"
+#include "tools/quay-package/checks.h"
 #include "tools/quay-package/rules.h"
 #include "tools/quay-package/zip.h"
 

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -17,50 +18,49 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string OwnFile(const char* name) {
+QByteArray OwnFile(const char* name) {
     QFile file(QStringLiteral(":/bundle/") + QString::fromLatin1(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
-}
-
-void Replace(std::string& text, const std::string& key, const std::string& value) {
-    for (std::size_t at = text.find(key); at != std::string::npos; at = text.find(key, at + value.size())) {
-        text.replace(at, key.size(), value);
-    }
-}
-
-std::string PropertyList(const VersionInfo& versions) {
-    std::string text = OwnFile("Info.plist.in");
-    const std::string shortVersion = versions.majorVersion.value_or("0") + "." + versions.minorVersion.value_or("0");
-    Replace(text, "@KQ_SHORT_VERSION@", QString::fromStdString(shortVersion).toHtmlEscaped().toStdString());
-    Replace(text, "@KQ_BUILD_VERSION@", versions.buildVersion.value_or("0"));
-    return text;
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // Lays the bundle into an empty folder.
 Error Lay(const CommandLine& line, const std::string& installedAt, const Package& package, const std::string& folder) {
-    std::string info;
-    for (const Entry& entry : package.entries) {
-        info = entry.path == kInfoFile ? entry.content : info;
+    const auto isInfo = [](const Entry& entry) { return entry.path == kInfoFile; };
+    const VersionInfo& versions = package.versions;
+    const QString version = Q(versions.majorVersion.value_or("0") + "." + versions.minorVersion.value_or("0"));
+    const struct {
+        const char* file;
+        std::string from;  // where it is copied from, if that is given
+        QByteArray bytes;
+    } parts[] = {
+        {kLauncherFile, line.Path("launcher"), {}},
+        {kPackageFile, package.file, {}},
+        {kInfoFile,
+         {},
+         QByteArray::fromStdString(std::find_if(package.entries.begin(), package.entries.end(), isInfo)->content)},
+        {kIconFile, line.Path("icon"), OwnFile("ico_72_tessaly.png")},
+        {kLevelFile, line.Path("levels"), {}},
+        {kSystemIconFile, {}, OwnFile("KelvaneQuay.icns")},
+        {kDesktopFile, {}, OwnFile("kelvane-quay.desktop.in").replace("@KQ_INSTALLED_AT@", installedAt.c_str())},
+        {kPropertyListFile,
+         {},
+         OwnFile("Info.plist.in")
+             .replace("@KQ_SHORT_VERSION@", version.toHtmlEscaped().toUtf8())
+             .replace("@KQ_BUILD_VERSION@", versions.buildVersion.value_or("0").c_str())},
+        {kTypeFile, {}, "APPL????"},
+    };
+    Error error;
+    for (const auto& part : parts) {
+        const std::string file = folder + "/" + part.file;
+        const bool isProgram =
+            part.file == kLauncherFile && QFileInfo(QString::fromStdString(part.from)).isExecutable();
+        if (!error && !part.from.empty()) {
+            error = CopyFile(part.from, file, isProgram ? 0755 : 0644);
+        } else if (!error && !part.bytes.isEmpty()) {
+            error = WriteFile(file, {part.bytes.constData(), static_cast<std::size_t>(part.bytes.size())}, 0644);
+        }
     }
-    std::string desktop = OwnFile("kelvane-quay.desktop.in");
-    Replace(desktop, "@KQ_INSTALLED_AT@", installedAt);
-    const std::string launcher = line.Path("launcher");
-    const auto at = [&folder](const char* file) { return folder + "/" + file; };
-    Error error =
-        CopyFile(launcher, at(kLauncherFile), QFileInfo(QString::fromStdString(launcher)).isExecutable() ? 0755 : 0644);
-    error = error ? error : CopyFile(package.file, at(kPackageFile), 0644);
-    error = error ? error : WriteFile(at(kInfoFile), info, 0644);
-    if (!error) {
-        error = line.IsSet("icon") ? CopyFile(line.Path("icon"), at(kIconFile), 0644)
-                                   : WriteFile(at(kIconFile), OwnFile("ico_72_tessaly.png"), 0644);
-    }
-    if (!error && line.IsSet("levels")) {
-        error = CopyFile(line.Path("levels"), at(kLevelFile), 0644);
-    }
-    error = error ? error : WriteFile(at(kSystemIconFile), OwnFile("KelvaneQuay.icns"), 0644);
-    error = error ? error : WriteFile(at(kDesktopFile), desktop, 0644);
-    error = error ? error : WriteFile(at(kPropertyListFile), PropertyList(package.versions), 0644);
-    return error ? error : WriteFile(at(kTypeFile), "APPL????", 0644);
+    return error;
 }
 
 // Whether a bundle, an empty folder or nothing stands at the path: anything else is not replaced.

@@ -52,7 +52,7 @@ bool IsWholeElf(const std::string& front, std::int64_t size) {
                                     numbers.At(is64 ? 60 : 48, 2) * numbers.At(is64 ? 58 : 46, 2));
     for (std::uint64_t at = programs; isWhole && at < programs + count * each; at += each) {
         loads = loads || numbers.At(at, 4) == 1;
-        isWhole = numbers.IsInFile(numbers.At(at + width, width), numbers.At(at + 4 * width, width));
+        isWhole = numbers.IsInFile(numbers.At(at + width, width), numbers.At(at + 4UL * width, width));
     }
     return isWhole && loads;
 }

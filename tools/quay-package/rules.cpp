@@ -115,7 +115,8 @@ const Defect* FollowLink(const Entry& link, const Paths& paths) {
             here = ParentOf(here);
             continue;
         }
-        const std::string path = here.empty() ? element : here + "/" + element;
+        std::string path = here;
+        path.append(here.empty() ? "" : "/").append(element);
         const auto found = paths.find(path);
         if (found == paths.end() || (!isLast && found->second->kind == Kind::File)) {
             return &defects::LinkDangling;
@@ -128,7 +129,7 @@ const Defect* FollowLink(const Entry& link, const Paths& paths) {
             if (next.target[0] == '/') {
                 return &defects::LinkLeaves;
             }
-            rest = next.target + (isLast ? "" : "/" + rest);
+            rest.insert(0, isLast ? "" : "/").insert(0, next.target);
         } else {
             here = path;
         }

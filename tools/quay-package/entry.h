@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <cstdint>
-#include <ctime>
 #include <string>
 
 enum class Kind { File, Folder, Link, Other };
@@ -43,8 +42,7 @@ struct Entry {
     std::string content = {};  // of a file, as much as is looked at
     ZipForm form = {};         // in a package alone
 
-    // In a folder alone: what changes with any change of it.
+    // In a folder alone.
     std::uint64_t inode = 0;
     std::uint64_t names = 0;  // hard links
-    struct timespec changed = {};
 };

@@ -9,7 +9,6 @@
 #include <cstring>
 #include <filesystem>
 
-#include "platform/change-time.h"
 #include "progress.h"
 
 namespace fs = std::filesystem;
@@ -93,8 +92,7 @@ bool Look(const std::string& root, const std::string& path, Entry& entry) {
     if (lstat(full.c_str(), &info) != 0) {
         return false;
     }
-    entry = {path, KindOf(info.st_mode), info.st_mode & 07777U, 0, {}, {}, {}, info.st_ino, info.st_nlink, {}};
-    entry.changed = platform::ChangeTime(info);
+    entry = {path, KindOf(info.st_mode), info.st_mode & 07777U, 0, {}, {}, {}, info.st_ino, info.st_nlink};
     entry.size = entry.kind == Kind::File ? info.st_size : 0;
     entry.target = entry.kind == Kind::Link ? fs::read_symlink(full, failure).string() : "";
     return !failure;

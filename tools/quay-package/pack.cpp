@@ -36,6 +36,7 @@ private:
     void Take(Entry entry);
     Error Stamp();
     Error Write(QFile& file);
+    std::uint64_t MarkOf(const Entry& entry) const;
     Error FindChange();
     Error ReadBack(const std::string& file);
     std::size_t Wanted(const std::string& path) const {
@@ -188,10 +189,12 @@ Error Packing::Stamp() {
 }
 
 // Changes with whatever changes in the object.
-std::uint64_t MarkOf(const Entry& entry) {
-    return qHash(QString::fromStdString(entry.path)) ^
-           (entry.inode + static_cast<std::uint64_t>(entry.size)) * 0x9e3779b97f4a7c15U ^
-           static_cast<std::uint64_t>(entry.changed.tv_sec * 1000000000 + entry.changed.tv_nsec);
+std::uint64_t Packing::MarkOf(const Entry& entry) const {
+    const QFileInfo info(QString::fromStdString(folder_ + "/" + entry.path));
+    const std::int64_t time = entry.kind == Kind::Link ? 0 : info.metadataChangeTime().toMSecsSinceEpoch();
+    const std::string text = entry.path + '\0' + entry.target + '\0' + std::to_string(entry.inode) + " " +
+                             std::to_string(entry.size) + " " + std::to_string(time);
+    return std::hash<std::string>()(text);
 }
 
 Error Packing::Inspect() {
@@ -240,7 +243,7 @@ Error Packing::FindChange() {
     std::vector<Entry> now;
     Error error = ScanTree(
         folder_, [this](const std::string& path) { return Wanted(path) == kSkip ? kSkip : 0; }, now);
-    const auto isSame = [](const Entry& entry, std::uint64_t mark) { return MarkOf(entry) == mark; };
+    const auto isSame = [this](const Entry& entry, std::uint64_t mark) { return MarkOf(entry) == mark; };
     const auto [changed, mark] = std::mismatch(now.begin(), now.end(), marks_.begin(), marks_.end(), isSame);
     return error || (changed == now.end() && mark == marks_.end())
                ? error
@@ -291,7 +294,7 @@ Error Packing::Run() {
         return fail(error.text());
     }
     const qint64 packed = file.size();
-    if (fchmod(file.handle(), 0666 & ~mask) != 0 || fsync(file.handle()) != 0 ||
+    if (fchmod(file.handle(), static_cast<mode_t>(0666 & ~mask)) != 0 || fsync(file.handle()) != 0 ||
         std::rename(file.fileName().toStdString().c_str(), output_.c_str()) != 0) {
         return Error::System(output_);
     }

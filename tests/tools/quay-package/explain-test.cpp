@@ -1,5 +1,7 @@
 #include <sys/stat.h>
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <csignal>
 
 #include "quay-test.h"
@@ -17,9 +19,10 @@ protected:
                 struct stat info = {};
                 lstat(path.c_str(), &info);
                 lines.push_back(path.string());
-                for (const long value :
-                     {static_cast<long>(info.st_ino), static_cast<long>(info.st_mode), static_cast<long>(info.st_size),
-                      info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ctim.tv_sec, info.st_ctim.tv_nsec}) {
+                const QFileInfo file(QString::fromStdString(path.string()));
+                for (const auto value :
+                     {static_cast<qint64>(info.st_ino), static_cast<qint64>(info.st_mode),
+                      static_cast<qint64>(info.st_size), file.metadataChangeTime().toMSecsSinceEpoch()}) {
                     lines.back() += " " + std::to_string(value);
                 }
             };

@@ -1,9 +1,9 @@
-#include <poll.h>
-#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QFileSystemWatcher>
 #include <QJsonArray>
+#include <QSignalSpy>
 #include <algorithm>
 #include <csignal>
 #include <random>
@@ -15,15 +15,13 @@ class PackTest : public QuayTest {
 protected:
     void SetUp() override { MakeClient(); }
 
-    // Packs over an old output in a folder: begins, and returns once something is written there.
+    // Packs over an old output in a folder: begins, and returns once the new file is there.
     std::unique_ptr<Process> PackOver(const std::string& out) const {
         Write(At(out + "/p.kpk"), "the old one");
-        const int watch = inotify_init1(IN_CLOEXEC);
-        EXPECT_GE(inotify_add_watch(watch, At(out).c_str(), IN_MODIFY), 0);
+        const QFileSystemWatcher watcher({QString::fromStdString(At(out))});
+        QSignalSpy changes(&watcher, &QFileSystemWatcher::directoryChanged);
         auto process = std::make_unique<Process>(Words("pack @client --build 8 -o @" + out + "/p.kpk"), environment_);
-        pollfd poller = {watch, POLLIN, 0};
-        EXPECT_EQ(poll(&poller, 1, 60000), 1) << "nothing was ever written";
-        close(watch);
+        EXPECT_TRUE(!changes.isEmpty() || changes.wait(60000)) << "nothing was ever written";
         return process;
     }
 

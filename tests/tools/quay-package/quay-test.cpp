@@ -1,5 +1,7 @@
 #include "quay-test.h"
 
+#include <sys/stat.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -114,6 +116,12 @@ void QuayTest::MakeBundle(int build) const {
     MakeClient(build);
     Pack(build);
     Succeed("bundle --launcher LAUNCHER --package @client.kpk -o @bundle");
+}
+
+void QuayTest::MakeFifo(const std::string& path) {
+    fs::create_directories(fs::path(path).parent_path());
+    fs::remove_all(path);
+    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
 }
 
 std::set<std::string> QuayTest::Names(const std::string& folder) {

@@ -49,6 +49,9 @@ protected:
     void Pack(int build = 7) const { Succeed("pack @client -o @client.kpk --build " + std::to_string(build)); }
     void MakeBundle(int build = 7) const;
 
+    // Puts a FIFO where something may stand, parents included.
+    static void MakeFifo(const std::string& path);
+
     // The names in a folder.
     static std::set<std::string> Names(const std::string& folder);
 

@@ -125,7 +125,9 @@ Error RunBundle(const CommandLine& line, Report& report) {
         error = Lay(line, installedAt, package, path);
         error = error ? error : CheckBundle(path, limit, &package, versions, report.findings);
         if (!error && report.findings.IsEmpty()) {
+            std::error_code failure;
             error = IsInterrupted() ? Error("interrupted") : PutInPlace(path, output);
+            fs::remove_all(path, failure);  // the old one, however long its paths
         }
     }
     report.Sum(report.findings.IsEmpty() ? Printable(output) + ": " + Shown(package.versions)

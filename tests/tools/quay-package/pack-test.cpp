@@ -1,13 +1,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFileSystemWatcher>
 #include <QJsonArray>
-#include <QSignalSpy>
 #include <algorithm>
 #include <csignal>
 #include <random>
 
+#include "await-write.h"
 #include "quay-test.h"
 #include "volume.h"
 
@@ -15,13 +14,13 @@ class PackTest : public QuayTest {
 protected:
     void SetUp() override { MakeClient(); }
 
-    // Packs over an old output in a folder: begins, and returns once the new file is there.
+    // Packs over an old output in a folder: begins, and returns once something is written there.
     std::unique_ptr<Process> PackOver(const std::string& out) const {
         Write(At(out + "/p.kpk"), "the old one");
-        const QFileSystemWatcher watcher({QString::fromStdString(At(out))});
-        QSignalSpy changes(&watcher, &QFileSystemWatcher::directoryChanged);
-        auto process = std::make_unique<Process>(Words("pack @client --build 8 -o @" + out + "/p.kpk"), environment_);
-        EXPECT_TRUE(!changes.isEmpty() || changes.wait(60000)) << "nothing was ever written";
+        std::unique_ptr<Process> process;
+        AwaitWrite(At(out), [&] {
+            process = std::make_unique<Process>(Words("pack @client --build 8 -o @" + out + "/p.kpk"), environment_);
+        });
         return process;
     }
 

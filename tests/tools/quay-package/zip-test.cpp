@@ -1,6 +1,7 @@
 // What an archive may be, byte for byte.
 #include "tools/quay-package/zip.h"
 
+#include <algorithm>
 #include <random>
 
 #include "extractor.h"
@@ -172,7 +173,10 @@ TEST_F(ZipTest, WhatIsWrittenReadsBack) {
     for (int round = 0; round < 30; ++round) {
         std::vector<Entry> entries = GoodEntries();
         for (int number = 0; number < 5; ++number) {
-            Entry entry{"Contents/Resources/file-" + std::to_string(number), Kind::File, source() % 2 ? 0644U : 0755U};
+            Entry entry;
+            entry.path = "Contents/Resources/file-" + std::to_string(number);
+            entry.kind = Kind::File;
+            entry.mode = source() % 2 == 0 ? 0644 : 0755;
             entry.content.resize((source() % 3) * 65536 + source() % 3);
             const unsigned spread = source() % 256 + 1;
             std::generate(entry.content.begin(), entry.content.end(),

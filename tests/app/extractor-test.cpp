@@ -1,10 +1,10 @@
 // What a package of the launcher's own never shows: odd entries, a damage behind good ones, and what nothing calls.
 #include "extractor.h"
 
-#include <archive.h>
 #include <archive_entry.h>
 
 #include "package.h"
+#include "posix/archive.h"
 #include "resources/str-table.h"
 #include "test-folder.h"
 
@@ -39,11 +39,10 @@ TEST_F(ExtractorTest, WritesEachEntryAsItStandsBelowTheFolder) {
                  "pax");
     Write(At("out/a/file"), "was there before");
     EXPECT_EQ(extractor_.Extract(), 0);
-    const Tree expected = {{"a", "750 folder"},
-                           {"a/file", "600 file two"},
-                           {"a/link", "777 link ../outside"},
-                           {"absolute", "640 file lands below"}};
-    EXPECT_EQ(ReadTree(At("out")), expected);
+    EXPECT_EQ(ReadTree(At("out")), (Tree{{"a", "750 folder"},
+                                         {"a/file", "600 file two"},
+                                         {"a/link", "777 link ../outside"},
+                                         {"absolute", "640 file lands below"}}));
 }
 
 TEST_F(ExtractorTest, ADamageEndsTheCountAndTheWork) {
@@ -75,18 +74,16 @@ TEST_F(ExtractorTest, EmptyPaths) {
 
 TEST_F(ExtractorTest, CopiesTheDataOfAnEntry) {
     EXPECT_NE(StandardErrorOf([&] { EXPECT_EQ(extractor_.copy_data(nullptr, nullptr), -1); }), "");
-    WritePackage(At("package"), {{"copy", std::string(100000, 's')}}, "pax");
-    archive* reader = archive_read_new();
-    archive_read_support_format_all(reader);
-    archive* writer = archive_write_disk_new();
+    WritePackage(At("package"), {{At("copy"), std::string(100000, 's')}}, "pax");
+    const ArchiveReader reader(archive_read_new());
+    const ArchiveWriter writer(archive_write_disk_new());
     archive_entry* entry = nullptr;
-    ASSERT_EQ(archive_read_open_filename(reader, At("package").c_str(), 10240), ARCHIVE_OK);
-    ASSERT_EQ(archive_read_next_header(reader, &entry), ARCHIVE_OK);
-    fs::current_path(folder());
-    ASSERT_EQ(archive_write_header(writer, entry), ARCHIVE_OK);
-    EXPECT_EQ(extractor_.copy_data(reader, writer), 0);
-    archive_write_free(writer);
-    archive_read_free(reader);
+    archive_read_support_format_all(reader.get());
+    ASSERT_EQ(archive_read_open_filename(reader.get(), At("package").c_str(), 10240), ARCHIVE_OK);
+    ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
+    ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);
+    EXPECT_EQ(extractor_.copy_data(reader.get(), writer.get()), 0);
+    EXPECT_EQ(archive_write_finish_entry(writer.get()), ARCHIVE_OK);
     EXPECT_EQ(Read(At("copy")), std::string(100000, 's'));
 }
 

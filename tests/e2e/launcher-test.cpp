@@ -3,22 +3,16 @@
 #include <regex>
 #include <sstream>
 
-namespace {
-
-std::string Info(int build) {
+static std::string Info(int build) {
     return "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=" + std::to_string(build) +
            "\nicon_overlay_version=3\n";
 }
 
-// A FIFO that is open for both never ends.
-constexpr char kReadMailbox[] = "mkfifo -m 666 \"$0\" && exec cat <>\"$0\"";
-
-}  // namespace
-
 LauncherTest::LauncherTest()
-    : home_(At("home")), bundle_(At("bundle")), mailbox_({"/bin/bash", "-c", kReadMailbox, At("mailbox")}) {
-    fs::create_directories(home_);
-    fs::create_directories(At("run"));
+    // A FIFO that is open for both never ends.
+    : mailbox_({"/bin/bash", "-c", "mkfifo -m 666 \"$0\" && exec cat <>\"$0\"", At("mailbox")}) {
+    fs::create_directory(home_);
+    fs::create_directory(At("run"));
     fs::permissions(At("run"), fs::perms::owner_all);
     fs::permissions(folder(), static_cast<fs::perms>(0755));
     environment_ = {{"HOME", home_},     {"KQ_TEST_MAILBOX", At("mailbox")},
@@ -33,11 +27,8 @@ LauncherTest::LauncherTest()
 }
 
 void LauncherTest::LayBundle(int build) {
-    const std::string binary = Arguments().front();
-    fs::create_directories(fs::path(binary).parent_path());
-    if (!fs::exists(binary)) {
-        fs::copy_file(KQ_LAUNCHER, binary);
-    }
+    fs::create_directories(bundle_ + "/Contents/MacOS");
+    fs::copy_file(KQ_LAUNCHER, Arguments().front(), fs::copy_options::skip_existing);
     Write(bundle_ + "/Contents/Resources/INFO", Info(build));
     WritePackage(Package(), ClientEntries(build));
 }
@@ -61,17 +52,9 @@ std::vector<PackageEntry> LauncherTest::ClientEntries(int build) {
 Tree LauncherTest::ClientTree(int build) const {
     const std::string root = At("expected-" + std::to_string(build));
     if (!fs::exists(root)) {
-        for (const PackageEntry& entry : ClientEntries(build)) {
-            const std::string path = root + "/" + entry.path;
-            if (entry.type == S_IFDIR) {
-                fs::create_directories(path);
-            } else if (entry.type == S_IFLNK) {
-                fs::create_symlink(entry.content, path);
-            } else {
-                Write(path, entry.content);
-                fs::permissions(path, static_cast<fs::perms>(entry.mode));
-            }
-        }
+        fs::create_directory(root);
+        WritePackage(root + ".tar", ClientEntries(build), "gnutar");
+        RunProcess({"tar", "-xpf", root + ".tar", "-C", root});
     }
     return ReadTree(root);
 }
@@ -91,14 +74,6 @@ void LauncherTest::LogEverything() const {
 Lines LauncherTest::Arguments(Lines prefix) const {
     prefix.push_back(bundle_ + "/Contents/MacOS/kelvane-quay-launcher");
     return prefix;
-}
-
-Lines LauncherTest::AsNobody(const Lines& folders) {
-    const std::string user = std::to_string(kNobody);
-    for (const std::string& folder : folders) {
-        RunProcess({"/bin/chown", "--recursive", user + ":" + user, folder});
-    }
-    return {"/usr/bin/setpriv", "--reuid=" + user, "--regid=" + user, "--clear-groups"};
 }
 
 Lines LauncherTest::Traced(const Lines& arguments) const {

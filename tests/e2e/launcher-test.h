@@ -26,17 +26,15 @@ protected:
     void InstallClient(int build) const;
     Tree HomeWith(int build, Tree others = {}) const;
 
-    // Starts the launcher, with a program in front that is to start it, and waits for its end.
+    // Starts the launcher, with a program in front that is to start it, and waits for its end. Such a program: strace
+    // with these arguments, which follows all threads and writes what it traces to the file "trace".
     Lines Arguments(Lines prefix = {}) const;
     Outcome Launch(const Lines& prefix = {}) const { return RunProcess(Arguments(prefix), environment_); }
-    // Such prefixes: to be a user who is not root and is given these folders; to have all threads followed by strace
-    // with these arguments, what it traces in the file "trace".
-    static Lines AsNobody(const Lines& folders);
     Lines Traced(const Lines& arguments) const;
 
-    // What the client says when it has been started.
+    // What the client says when it has been started; checks a good run: exit code 0, nothing on the standard streams,
+    // and the client of this build started.
     std::string StartedLine(int build) const;
-    // Checks a good run: exit code 0, nothing on the standard streams, and the client of this build started.
     void ExpectLaunched(const Outcome& outcome, int build);
 
     // The text part of each line of the log, without time, ids, file and line: "[ERROR] failed to ...".
@@ -48,8 +46,8 @@ protected:
     // The tree of the private folder without the log.
     Tree PrivateTree() const;
 
-    std::string home_;
-    std::string bundle_;
+    std::string home_ = At("home");
+    std::string bundle_ = At("bundle");
     Environment environment_;
     Process mailbox_;
 };

@@ -55,7 +55,7 @@ TEST_F(MigrationTest, TheDataMovesAndTheRestGoes) {
         lay();
         EXPECT_EQ(Launch().exitCode, 0);
         EXPECT_NE(mailbox_.ReadLine().find("started 1000 in "), std::string::npos);
-        EXPECT_EQ(Below(PrivateTree(), "data"), data);
+        EXPECT_EQ(ReadTree(Private("data")), data);
         EXPECT_EQ(fs::exists(Older("")), stays);
         EXPECT_EQ(ReadTree(home_ + "/.Tessaly"), stays ? older : Tree());
         EXPECT_EQ(LogLines(), log);

@@ -51,10 +51,7 @@ std::string Describe(const fs::directory_entry& entry) {
         std::ostringstream bytes;
         bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
         const std::string content = bytes.str();
-        text << " file " << content.substr(0, 200);
-        if (content.size() > 200) {
-            text << "... #" << content.size() << " " << std::hash<std::string>()(content);
-        }
+        text << " file " << (content.size() > 200 ? std::to_string(std::hash<std::string>()(content)) : content);
     } else {
         text << " other";
     }
@@ -70,14 +67,4 @@ Tree ReadTree(const std::string& folder) {
         tree[entry.path().string().substr(folder.size() + 1)] = Describe(entry);
     }
     return tree;
-}
-
-Tree Below(const Tree& tree, const std::string& prefix) {
-    Tree part;
-    for (const auto& [path, description] : tree) {
-        if (path.rfind(prefix + "/", 0) == 0) {
-            part[path.substr(prefix.size() + 1)] = description;
-        }
-    }
-    return part;
 }

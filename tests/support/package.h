@@ -21,9 +21,6 @@ void WritePackage(const std::string& file, const std::vector<PackageEntry>& entr
                   const std::string& filter = "");
 
 // What lies below a folder: for each relative path a line that tells its type, its permission bits and, for a file or a
-// link, its content (long ones by size and a digest). Two trees are the same if their maps are.
+// link, its content (long ones by a digest). Two trees are the same if their maps are.
 using Tree = std::map<std::string, std::string>;
 Tree ReadTree(const std::string& folder);
-
-// The tree's entries below `prefix`, with the prefix removed.
-Tree Below(const Tree& tree, const std::string& prefix);

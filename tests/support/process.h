@@ -4,13 +4,12 @@
 #include <sys/types.h>
 
 #include <QProcess>
+#include <csignal>
 #include <map>
 #include <string>
 #include <vector>
 
 using Environment = std::map<std::string, std::string>;
-
-constexpr uid_t kNobody = 65534;  // a user who is not root
 
 // What became of a program.
 struct Outcome {
@@ -20,21 +19,16 @@ struct Outcome {
     std::string errors;  // its standard error
 };
 
-// A program that runs with exactly this environment, nothing to read, and its output kept for the test. It is killed
-// with the object.
-class Process {
+// A program that runs with exactly this environment and is killed with the object. Waiting for it has a limit of a
+// minute, for a test gone wrong.
+class Process : public QProcess {
 public:
     explicit Process(const std::vector<std::string>& arguments, const Environment& environment = {});
-    ~Process();
+    ~Process() override;
 
-    // The next line that it prints; waits for it. The limits here and below, a minute, are for a test gone wrong.
-    std::string ReadLine();
-
-    void Signal(int number) const;
+    std::string ReadLine();  // the next one that it prints
+    void Signal(int number) const { ::kill(static_cast<pid_t>(processId()), number); }
     Outcome Wait();
-
-private:
-    QProcess process_;
 };
 
 // Starts a program and waits for its end.
@@ -46,22 +40,21 @@ constexpr char kPrompt[] = "echo $$; exec sleep 60";                            
 constexpr char kSlow[] = "trap 'sleep 1.2; exit 7' TERM; echo $$; read -r <&3";  // ends a while after SIGTERM
 constexpr char kDeaf[] =
     "trap 'echo term' TERM; echo $$; while read -r <&3; do :; done";  // tells of SIGTERM, and stays
-constexpr char kZombie[] = "sleep 0.1 & echo $!; exec sleep 60";      // has ended, and nobody cares
 }  // namespace manners
 
-// A process that stands for a running client: a shell script beneath a shell that takes notice of its end.
-class FakeClient {
+// A process that stands for a running client: a script beneath a shell that takes notice of its end.
+class FakeClient : public Process {
 public:
-    explicit FakeClient(const std::string& script);
-    ~FakeClient();
+    explicit FakeClient(const std::string& script)
+        : Process({"/bin/bash", "-c", "exec 3<&0; bash -c \"$0\" & wait $! 2>/dev/null; echo $?", script}),
+          id_(std::stoi("0" + ReadLine())) {}
+    ~FakeClient() override { ::kill(id_, SIGKILL); }
 
     pid_t id() const { return id_; }
-    std::string ReadLine() { return shell_.ReadLine(); }
 
     // Waits for its end: the exit code, or 128 and the number of the signal that ended it.
-    int AwaitEnd();
+    int AwaitEnd() { return std::stoi("0" + ReadLine()); }
 
 private:
-    Process shell_;
     pid_t id_;
 };

@@ -1,28 +1,19 @@
 #include "test-folder.h"
 
-#include <grp.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include "process.h"
 
 FolderTest::FolderTest() : folder_(fs::canonical(fs::temp_directory_path()).string() + "/kq-test-XXXXXX") {
     umask(022);
-    if (mkdtemp(folder_.data()) == nullptr) {
-        std::perror(folder_.c_str());
-        std::abort();
-    }
+    EXPECT_NE(mkdtemp(folder_.data()), nullptr) << folder_;
 }
 
 FolderTest::~FolderTest() {
     if (HasFailure()) {
-        std::fprintf(stderr, "the test's folder is kept: %s\n", folder_.c_str());
+        std::cerr << "the test's folder is kept: " << folder_ << "\n";
         return;
     }
     std::error_code ignored;
@@ -35,9 +26,9 @@ void FolderTest::Write(const std::string& path, const std::string& bytes) {
 }
 
 std::string FolderTest::Read(const std::string& path) {
-    std::ostringstream bytes;
     const std::ifstream in(path, std::ios::binary);
     EXPECT_TRUE(in.is_open()) << "can't read " << path;
+    std::ostringstream bytes;
     bytes << in.rdbuf();
     return bytes.str();
 }
@@ -49,38 +40,14 @@ std::string FolderTest::StandardErrorOf(const std::function<void()>& action) {
 }
 
 std::string WhyNot(Ability ability) {
-    switch (ability) {
-        case Ability::Linux: return fs::exists("/proc/self/ns/mnt") ? "" : "needs Linux";
-        case Ability::Root: return geteuid() == 0 ? "" : "needs root";
-        case Ability::OwnCalls:
+    if (ability == Ability::Root) {
+        return geteuid() == 0 ? "" : "needs root";
+    }
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-            return "a sanitizer makes calls of its own";
-#else
-            return "";
+    if (ability == Ability::OwnCalls) {
+        return "a sanitizer makes calls of its own";
+    }
 #endif
-        case Ability::Tracing: break;
-    }
-    const Outcome traced = RunProcess({"/usr/bin/strace", "-qq", "-o", "/dev/null", "/bin/true"});
+    const Outcome traced = RunProcess({"/usr/bin/env", "strace", "-qq", "-o", "/dev/null", "/bin/true"});
     return traced.exitCode == 0 ? "" : "needs strace: " + traced.errors;
-}
-
-void AsOrdinaryUser(const std::function<void()>& action) {
-    if (geteuid() != 0) {
-        action();
-        return;
-    }
-    std::fflush(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        if (setgroups(0, nullptr) != 0 || setgid(kNobody) != 0 || setuid(kNobody) != 0) {
-            std::perror("can't become another user");
-            _exit(2);
-        }
-        action();
-        std::fflush(nullptr);
-        _exit(::testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = -1;
-    EXPECT_EQ(child, waitpid(child, &status, 0));
-    EXPECT_EQ(0, status) << "as an ordinary user";
 }

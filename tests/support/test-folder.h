@@ -36,13 +36,9 @@ private:
     std::string folder_;
 };
 
-// What not every machine and every user can do.
-enum class Ability {
-    Linux,     // what a kernel of another kind has not: namespaces, /proc
-    Root,      // be another user
-    OwnCalls,  // tell a program's system calls from those of a sanitizer
-    Tracing,   // see and change a program's system calls, by strace(1)
-};
+// What not every machine and every user can do: be another user; see and change a program's system calls, by strace(1);
+// and tell those calls from a sanitizer's.
+enum class Ability { Root, Tracing, OwnCalls };
 
 // The reason why it can't be done here, empty if it can.
 std::string WhyNot(Ability ability);
@@ -52,7 +48,3 @@ std::string WhyNot(Ability ability);
     if (const std::string reason = WhyNot(what); !reason.empty()) { \
         GTEST_SKIP() << reason;                                     \
     }
-
-// Runs `action` as a user who is not root: where the tests run as root, as nobody in a child process, whose failed
-// expectations fail the test. The folders that it works in have to be open to everyone.
-void AsOrdinaryUser(const std::function<void()>& action);

@@ -1,37 +1,55 @@
 // Volumes for tests of what a plain folder of the machine does not have.
 #pragma once
 
-#include <string>
+#if defined(__linux__)
+#include <sched.h>
+#endif
 
-// A volume mounted for one test, where the user is root on Linux:
-//
+#include "process.h"
+#include "test-folder.h"
+
+// A volume mounted for one test, where the user is root on Linux, in a namespace that the process enters with its first
+// one: only its later children see it, and a crash leaves nothing behind. Make it before there are other threads.
 //     const Volume volume(Volume::Tmpfs, At("volume"), 1 << 20);
 //     KQ_NEED(volume);
-//
-// It is mounted in a mount namespace that the process enters with its first volume, so that no other process but its
-// later children sees it and nothing is left behind when the test crashes. Make it before there are other threads, and
-// leave its folder before it ends.
 class Volume {
 public:
-    enum Kind {
-        Tmpfs,  // another volume than the test's folder, with an end to its space
-        ExFat,  // ignores letter case, keeps Unicode forms apart; has no links, no modes and no owners. Served by FUSE.
-    };
+    // The kinds, as scripts that get the folder and the size. Another volume than the test's, with an end to its space:
+    static constexpr char Tmpfs[] = "mount -t tmpfs -o mode=0777,size=$1 tmpfs \"$0\"";
+    // One that ignores letter case, keeps Unicode forms apart, and has no links, modes and owners. Its server insists
+    // on a block device; the loop device frees itself with its last user.
+    static constexpr char ExFat[] = R"(set -e
+        truncate --size=$1 "$0.image"
+        mkfs.exfat "$0.image"
+        device=$(losetup --find --show "$0.image")
+        mount.exfat-fuse $device "$0" || failed=1
+        losetup --detach $device
+        exit $failed)";
 
-    // Mounts a volume of `size` bytes at `folder`, which is created.
-    Volume(Kind kind, const std::string& folder, std::size_t size);
-    // Unmounts. What the volume held is gone.
-    ~Volume();
+    Volume(const char* kind, const std::string& folder, std::size_t size) : folder_(folder) {
+        fs::create_directory(folder);
+#if defined(__linux__)
+        static const bool entered =
+            unshare(CLONE_NEWNS) == 0 && RunProcess({"mount", "--make-rprivate", "/"}).exitCode == 0;
+        if (entered) {
+            const Outcome mounted = RunProcess({"/bin/bash", "-c", kind, folder, std::to_string(size)});
+            why_not_ = mounted.exitCode == 0 ? "" : "no volume: " + mounted.errors;
+        }
+#endif
+    }
+    ~Volume() {
+        if (why_not_.empty()) {
+            RunProcess({"umount", "--lazy", folder_});
+        }
+    }
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
 
-    const std::string& whyNot() const { return why_not_; }
+    friend std::string WhyNot(const Volume& volume) {
+        return volume.why_not_;
+    }
 
 private:
     const std::string folder_;
-    std::string why_not_;  // empty while mounted
+    std::string why_not_ = "needs root on Linux";  // empty while mounted
 };
-
-inline std::string WhyNot(const Volume& volume) {
-    return volume.whyNot();
-}

@@ -23,7 +23,7 @@ TEST_F(BundleTest, InstallsAndUpgradesThroughTheLauncher) {
         EXPECT_EQ(Check("@bundle"), Codes());
         EXPECT_TRUE(fs::is_empty(At("tmp")));
         ExpectLaunched(Launch(), build);
-        EXPECT_EQ(Below(PrivateTree(), "KelvaneQuay.app"), ClientTree(build));
+        EXPECT_EQ(ReadTree(App()), ClientTree(build));
         Succeed("verify @bundle --home @home");
     }
 }

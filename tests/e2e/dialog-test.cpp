@@ -81,17 +81,19 @@ TEST_F(DialogTest, ShownOnlyForWorkItSaysNothingOfAFailureAndClosedItChangesNoth
 }
 
 TEST_F(DialogTest, WithoutAScreenTheClientStartsAllTheSame) {
-    const Environment settings[] = {{{"DISPLAY", ":4095"}},
-                                    {{"QT_QPA_PLATFORM", "xcb"}},
-                                    {{"QT_QPA_PLATFORM", "no-such"}},
-                                    {{"QT_QPA_PLATFORMTHEME", "gtk3"}},
-                                    {{"QT_STYLE_OVERRIDE", "gtk2"}},
-                                    {{"WAYLAND_DISPLAY", "nobody"}},
-                                    {}};
+    // The last is as it was: no screen is named at all.
+    const std::pair<const char*, const char*> settings[] = {{"DISPLAY", ":4095"},
+                                                            {"QT_QPA_PLATFORM", "xcb"},
+                                                            {"QT_QPA_PLATFORM", "no-such"},
+                                                            {"QT_QPA_PLATFORMTHEME", "gtk3"},
+                                                            {"QT_STYLE_OVERRIDE", "gtk2"},
+                                                            {"WAYLAND_DISPLAY", "nobody"},
+                                                            {"TZ", "UTC"}};
     environment_.erase("QT_QPA_PLATFORM");
     int build = 1000;
-    for (Environment environment : settings) {
-        environment.insert(environment_.begin(), environment_.end());
+    for (const auto& [name, value] : settings) {
+        Environment environment = environment_;
+        environment[name] = value;
         LayBundle(++build);
         Outcome outcome = RunProcess(Arguments(), environment);
         // Only where Qt's Wayland is installed is there a library below Qt to complain.

@@ -1,12 +1,11 @@
 // Volumes for tests of what a plain folder of the machine does not have.
 #pragma once
 
-#if defined(__linux__)
-#include <sched.h>
-#endif
-
 #include "process.h"
 #include "test-folder.h"
+
+// Gives the process mounts of its own, which nobody else sees. False where it can't have them. A body for each system.
+bool EnterOwnMounts();
 
 // A volume mounted for one test, where the user is root on Linux, in a namespace that the process enters with its first
 // one: only its later children see it, and a crash leaves nothing behind. Make it before there are other threads.
@@ -28,14 +27,11 @@ public:
 
     Volume(const char* kind, const std::string& folder, std::size_t size) : folder_(folder) {
         fs::create_directory(folder);
-#if defined(__linux__)
-        static const bool entered =
-            unshare(CLONE_NEWNS) == 0 && RunProcess({"mount", "--make-rprivate", "/"}).exitCode == 0;
+        static const bool entered = EnterOwnMounts();
         if (entered) {
             const Outcome mounted = RunProcess({"/bin/bash", "-c", kind, folder, std::to_string(size)});
             why_not_ = mounted.exitCode == 0 ? "" : "no volume: " + mounted.errors;
         }
-#endif
     }
     ~Volume() {
         if (why_not_.empty()) {
@@ -45,9 +41,7 @@ public:
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
 
-    friend std::string WhyNot(const Volume& volume) {
-        return volume.why_not_;
-    }
+    friend std::string WhyNot(const Volume& volume) { return volume.why_not_; }
 
 private:
     const std::string folder_;

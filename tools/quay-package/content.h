@@ -29,7 +29,7 @@ bool PropertyListValue(const std::string& bytes, const std::string& key, std::st
 bool IsIcon(const std::string& bytes);
 
 // What is wrong with a desktop entry that is to start `program`, a path's end; empty if nothing is. What
-// desktop-file-validate refuses is refused. Source: the Desktop Entry Specification 1.5.
+// desktop-file-validate refuses is refused. Source: freedesktop.org, Desktop Entry 1.5.
 std::string DesktopEntryFault(const std::string& bytes, const std::string& program);
 
 // Reads the versions that the launcher will read in an INFO of these bytes.

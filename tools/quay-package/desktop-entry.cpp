@@ -6,8 +6,8 @@
 
 namespace {
 
-// What a line may be: a comment, a group's header, or a key with its value. The categories are those of the Desktop
-// Menu Specification 1.1, "Registered Categories".
+// What a line may be: a comment, a group's header, or a key with its value. The categories are those of
+// freedesktop.org, Desktop Menu 1.1, "Registered Categories".
 constexpr char kLine[] =
     R"((#.*)?|\[Desktop Entry\]|\[(Desktop Action |X-)[^\[\]]+\]|X-[A-Za-z0-9-]+(\[[\w.@-]+\])? *=.*|)"
     R"((Name|GenericName|Comment|Icon|Keywords)(\[[\w.@-]+\])? *=.*|)"

@@ -129,7 +129,7 @@ void Explanation::ExplainDecision() {
                                : isDue_      ? "the bundle's build is higher than the installed one"
                                              : "the bundle's build is not higher than the installed one";
     Say("bundle", ToJson(target), bundle_ + ": " + Shown(target));
-    Say("installed", ToJson(source), home_ + ": " + Shown(source));
+    Say("installed", ToJson(source), home_ + ": " + (source.buildVersion ? Shown(source) : "no version"));
     Say("decision", Q(decision), decision + ": " + reason);
     report_.Set("reason", reason);
     report_.Set("binary_installed", QJsonValue(isInstalled_));
@@ -244,8 +244,8 @@ void Explanation::ExplainPackage(const Package& package) {
     Say("package", static_cast<int>(package.entries.size()), std::to_string(package.entries.size()) + " entries");
     Say("space",
         QJsonObject{{QStringLiteral("needed"), static_cast<double>(needed)},
-                    {QStringLiteral("free"), static_cast<double>(free)}},
-        SizeText(needed) + " needed beside the old copy, " + SizeText(free) + " free");
+                    {QStringLiteral("free"), free < 0 ? QJsonValue() : QJsonValue(static_cast<double>(free))}},
+        SizeText(needed) + " needed beside the old copy" + (free < 0 ? "" : ", " + SizeText(free) + " free"));
     if (free >= 0 && free < needed) {
         Add(defects::NoSpace, place, SizeText(needed) + " needed, " + SizeText(free) + " free");
     }

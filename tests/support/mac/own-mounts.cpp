@@ -1,0 +1,5 @@
+#include "volume.h"
+
+bool EnterOwnMounts() {
+    return false;
+}

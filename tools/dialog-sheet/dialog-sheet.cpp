@@ -290,7 +290,7 @@ int Compose(const QString& folder, const QString& file) {
         width += static_cast<int>(picture.width() * kReduction) + kGap;
         height = qMax(height, static_cast<int>(picture.height() * kReduction) + kGap);
     }
-    QImage sheet(width, height * codes.size() + kGap, QImage::Format_RGB32);
+    QImage sheet(width, height * static_cast<int>(codes.size()) + kGap, QImage::Format_RGB32);
     sheet.fill(QColor(200, 204, 210));
     QPainter painter(&sheet);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

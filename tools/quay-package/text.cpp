@@ -3,7 +3,6 @@
 #include <unicode/unistr.h>
 
 #include <QLocale>
-#include <QVector>
 #include <algorithm>
 
 std::string Printable(const std::string& bytes) {
@@ -13,7 +12,7 @@ std::string Printable(const std::string& bytes) {
     const bool isUtf8 = IsUtf8(bytes);
     const QByteArray raw = QByteArray::fromStdString(bytes);
     QByteArray out;
-    for (const uint letter : (isUtf8 ? QString::fromUtf8(raw) : QString::fromLatin1(raw)).toUcs4()) {
+    for (const char32_t letter : (isUtf8 ? QString::fromUtf8(raw) : QString::fromLatin1(raw)).toStdU32String()) {
         const QByteArray text =
             isUtf8 ? QString::fromUcs4(&letter, 1).toUtf8() : QByteArray(1, static_cast<char>(letter));
         const QChar::Category category = QChar::category(letter);

@@ -96,10 +96,10 @@ class CheckCatalogsTest(unittest.TestCase):
             self.assertEqual({found for _, found, _ in self.checker.defects(code, root)}, {kind})
 
     def test_a_row_for_each_catalog(self):
-        (self.resources / "catalogs/qqq.ts").write_text("", "utf-8")
+        (self.resources / "catalogs/zzz.ts").write_text("", "utf-8")
         status, table, kinds = self.check()
         self.assertEqual((status, kinds), (1, ["language"]))
-        self.assertEqual([row.split()[0] for row in table] + ["qqq"],
+        self.assertEqual([row.split()[0] for row in table] + ["zzz"],
                          sorted(path.stem for path in self.resources.glob("catalogs/*.ts")))
 
     def test_defects_of_texts(self):

@@ -17,6 +17,7 @@
 #include <QRawFont>
 #include <QRegularExpression>
 #include <QTextLayout>
+#include <QTransform>
 #include <QTranslator>
 #include <algorithm>
 #include <cmath>
@@ -202,13 +203,16 @@ bool IsReadable(const QProgressDialog& dialog, const QImage& picture, const QStr
     percentage.moveCenter(bar->geometry().center());
     const QPoint done(bar->x() + bar->width() / 5, bar->geometry().center().y());
     const QPoint open(bar->x() + bar->width() * 4 / 5, done.y());
+    // Qt 6 draws more than one dot for each of the dialog's where the screen is scaled.
+    const double dots = static_cast<double>(picture.width()) / dialog.width();
+    const QTransform drawn = QTransform::fromScale(dots, dots);
     // An empty or full bar has one colour.
     const bool isPartial = bar->value() > bar->minimum() && bar->value() < bar->maximum();
 
     const std::pair<const char*, double> parts[] = {
-        {"label", TextContrast(picture.copy(label->geometry()))},
-        {"percentage", TextContrast(picture.copy(percentage))},
-        {"bar", isPartial ? Contrast(picture.pixel(done), picture.pixel(open)) : kLeastContrast},
+        {"label", TextContrast(picture.copy(drawn.mapRect(label->geometry())))},
+        {"percentage", TextContrast(picture.copy(drawn.mapRect(percentage)))},
+        {"bar", isPartial ? Contrast(picture.pixel(drawn.map(done)), picture.pixel(drawn.map(open))) : kLeastContrast},
     };
     bool readable = true;
     for (const auto& [part, contrast] : parts) {

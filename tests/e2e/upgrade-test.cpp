@@ -224,13 +224,16 @@ TEST_F(UpgradeTest, TheClientInheritsNothing) {
         "#!/bin/sh\nexec 9>\"$KQ_TEST_MAILBOX\"\n"
         "grep -cE '^Sig(Blk:.0{16}|Ign:.0{7}[01][08]0{7})$' /proc/self/status >&9\n"
         "echo \"$(($(ps -o sid= -p $$) == $$))\" >&9\n"
-        "for file in /proc/$$/fd/*; do readlink \"$file\" >&9; done\n";
+        "(for file in /proc/$$/fd/*; do readlink \"$file\"; done; echo end) >&9\n";
     WritePackage(Package(), entries);
     LogEverything();
-    EXPECT_EQ(Launch({"/usr/bin/env", "--ignore-signal=TERM", "--ignore-signal=HUP", "--block-signal=USR1"}).exitCode,
-              0);
-    Lines lines(7);
-    std::generate(lines.begin(), lines.end(), [&] { return mailbox_.ReadLine(); });
+    const Outcome outcome = Launch({"/bin/sh", "-c", "exec \"$@\" 5</etc/passwd", "sh", "/usr/bin/env",
+                                    "--ignore-signal=TERM", "--ignore-signal=HUP", "--block-signal=USR1"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    Lines lines;
+    for (std::string line; (line = mailbox_.ReadLine()) != "end" && !line.empty();) {
+        lines.push_back(line);
+    }
     std::sort(lines.begin(), lines.end());
     // No blocked and no ignored signals, its own session, and beside the null device the shell's own two files.
     const std::string null = "/dev/null";

@@ -18,8 +18,8 @@ int ForgetApplication(const QString& folder);
 //
 // macOS: `open -n -a FOLDER`, detached; the bundle's own Info.plist names the binary.
 // Linux: the executable itself, detached, in a session of its own, in the folder of the executable, with its standard
-// streams on the null device, no signal blocked and none ignored. Descriptors of this process reach it only where they
-// lack close-on-exec. It is a child of this process until that ends. Source: posix_spawn(3).
+// streams on the null device, no other descriptor, no signal blocked and none ignored. It is a child of this process
+// until that ends. Source: posix_spawn(3).
 bool StartApplication(const QString& folder, const QString& executable);
 
 }  // namespace platform

@@ -26,7 +26,7 @@ protected:
 constexpr char kInitializing[] = "Kelvane Quay Client is initializing...";
 constexpr char kReady[] = "Kelvane Quay Client is ready.";
 
-TEST_F(DialogTest, SpeaksTheUsersLanguage) {
+TEST_F(DialogTest, SpeaksTheUsersLanguageAtAnyScale) {
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
         {"LANG", "de_DE.UTF-8", "Kelvane Quay Client wird initialisiert ...", "Kelvane Quay Client ist bereit."},
         {"LANG", "th_TH.UTF-8", "Kelvane Quay Client กำลังเริ่มต้น...", "Kelvane Quay Client พร้อมแล้ว"},
@@ -34,7 +34,8 @@ TEST_F(DialogTest, SpeaksTheUsersLanguage) {
         {"LANG", "xx_YY.UTF-8", kInitializing, kReady},
         {"LC_ALL", "fr_FR", "Kelvane Quay Client est en cours d'initialisation...", "Kelvane Quay Client est prêt."},
         {"LANGUAGE", "uk:pl:de", "Aplikacja Kelvane Quay Client jest inicjowana...",
-         "Aplikacja Kelvane Quay Client jest gotowa."}};
+         "Aplikacja Kelvane Quay Client jest gotowa."},
+        {"QT_FONT_DPI", "144", kInitializing, kReady}};
     int build = 1000;
     for (const auto& [variable, value, initializing, ready] : cases) {
         SCOPED_TRACE(value);
@@ -44,22 +45,10 @@ TEST_F(DialogTest, SpeaksTheUsersLanguage) {
         fs::remove(At("probe"));
         ExpectLaunched(Launch(), build);
         environment_ = before;
-        EXPECT_EQ(Seen(), Shown(initializing, "10\n20\n30\n40\n50\n60\n70\n80\n90\n100\n", ready,
-                                value[0] == 't' ? "Microsoft Sans Serif" : "Arial"));
-    }
-}
-
-TEST_F(DialogTest, ShowsEachStepAtAnyScale) {
-    LayBundle(1000);
-    std::vector<PackageEntry> entries = ClientEntries(1000);
-    entries.erase(entries.begin() + 4, entries.begin() + 7);
-    WritePackage(Package(), entries);
-    for (const auto& [dots, size] : std::map<std::string, std::string>{{"96", "400x80"}, {"144", "600x120"}}) {
-        environment_["QT_FONT_DPI"] = dots;
-        fs::remove_all(home_);
-        fs::remove(At("probe"));
-        ExpectLaunched(Launch(), 1000);
-        EXPECT_EQ(Seen(), Shown(kInitializing, "14\n28\n42\n57\n71\n85\n100\n", kReady, "Arial", size));
+        // The value is always the whole part of the eleven entries' percentage.
+        EXPECT_EQ(Seen(),
+                  Shown(initializing, "9\n18\n27\n36\n45\n54\n63\n72\n81\n90\n100\n", ready,
+                        value[0] == 't' ? "Microsoft Sans Serif" : "Arial", variable[0] == 'Q' ? "600x120" : "400x80"));
     }
 }
 

@@ -1,4 +1,5 @@
-// What becomes of a home in every branch of a run.
+// What becomes of a home in every branch of a run, and what a run asks of the system.
+#include <QtGlobal>
 
 #include "launcher-test.h"
 
@@ -83,7 +84,6 @@ TEST_F(UpgradeTest, FailedExtractionPutsTheOldCopyBack) {
         // and what the first line has
         {[&] { fs::remove(Package()); }, "archive_read_open_filename failed: 'Failed to open '" + Package() + "''"},
         {[&] { Write(Package(), ""); }, ""},
-        {[&] { Write(Package(), std::string(5000, 'x')); }, ""},
         {[&] { fs::resize_file(Package(), fs::file_size(Package()) / 2); }, ""},
         {[&] { WritePackage(Package(), {}, "pax"); }, "Failed to calculate total file numbers, ret: 0"},
         {[&] {
@@ -220,7 +220,7 @@ TEST_F(UpgradeTest, TheClientInheritsNothing) {
     LayBundle(1000);
     std::vector<PackageEntry> entries = ClientEntries(1000);
     // The two signals above 31 that may be ignored are the C library's own.
-    entries[8].content =
+    entries.rbegin()[1].content =
         "#!/bin/sh\nexec 9>\"$KQ_TEST_MAILBOX\"\n"
         "grep -cE '^Sig(Blk:.0{16}|Ign:.0{7}[01][08]0{7})$' /proc/self/status >&9\n"
         "echo \"$(($(ps -o sid= -p $$) == $$))\" >&9\n"
@@ -247,6 +247,30 @@ TEST_F(UpgradeTest, WithoutAThreadTheWorkIsDoneAllTheSame) {
     EXPECT_EQ(Launch(Traced({"-e", "trace=clone3,clone", "-e", "inject=clone3:error=EAGAIN:when=1"})).exitCode, 0);
     EXPECT_EQ(mailbox_.ReadLine(), StartedLine(2000));
     EXPECT_EQ(PrivateTree(), HomeWith(2000));
+}
+
+// The same on every machine, however busy it is.
+TEST_F(UpgradeTest, CallsForEachEntryAndForAStartWithNothingToDo) {
+    KQ_NEED(Ability::OwnCalls);
+    environment_.erase("TZ");  // which would spare the looks at the system's zone
+    constexpr int kFiles = 1000;
+    for (const int build : {1000, 1001}) {
+        LayBundle(build);
+        std::vector<PackageEntry> entries = ClientEntries(build);
+        for (int at = 0; at < kFiles; ++at) {
+            entries.insert(entries.begin() + 1, {"Contents/file" + std::to_string(at), "a few bytes"});
+        }
+        WritePackage(Package(), entries);
+        ExpectLaunched(Launch(build == 1000 ? Lines() : Traced({"-c", "-U", "name,calls"})), build);
+    }
+    const int calls = std::stoi(RunProcess({"awk", "$1 == \"total\" { print $2 }", At("trace")}).output);
+    EXPECT_LE(calls / kFiles, QT_VERSION_MAJOR == 5 ? 15 : 21) << "Qt 6 wakes a thread with more calls";
+    EXPECT_GE(calls / kFiles, 5) << "an entry can't be replaced with less";
+
+    ExpectLaunched(Launch(Traced({"-e", "trace=%file"})), 1001);
+    const int looks = std::stoi(RunProcess({"grep", "-c", "/.KelvaneQuay", At("trace")}).output);
+    EXPECT_LE(looks, 24);
+    EXPECT_GE(looks, 3) << "INFO, the binary and its start";
 }
 
 }  // namespace

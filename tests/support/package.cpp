@@ -2,14 +2,11 @@
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <sstream>
 
-namespace fs = std::filesystem;
+#include "test-folder.h"
 
 void WritePackage(const std::string& file, const std::vector<PackageEntry>& entries, const std::string& format,
                   const std::string& filter) {
@@ -38,33 +35,21 @@ void WritePackage(const std::string& file, const std::vector<PackageEntry>& entr
     archive_write_free(writer);
 }
 
-namespace {
-
-std::string Describe(const fs::directory_entry& entry) {
-    std::ostringstream text;
-    text << std::oct << static_cast<unsigned>(entry.symlink_status().permissions()) << std::dec;
-    if (entry.is_symlink()) {
-        text << " link " << fs::read_symlink(entry).string();
-    } else if (entry.is_directory()) {
-        text << " folder";
-    } else if (entry.is_regular_file()) {
-        std::ostringstream bytes;
-        bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-        const std::string content = bytes.str();
-        text << " file " << (content.size() > 200 ? std::to_string(std::hash<std::string>()(content)) : content);
-    } else {
-        text << " other";
-    }
-    return text.str();
-}
-
-}  // namespace
-
 Tree ReadTree(const std::string& folder) {
     Tree tree;
     std::error_code absent;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, absent)) {
-        tree[entry.path().string().substr(folder.size() + 1)] = Describe(entry);
+        std::ostringstream text;
+        text << std::oct << static_cast<unsigned>(entry.symlink_status().permissions()) << std::dec;
+        if (entry.is_symlink()) {
+            text << " link " << fs::read_symlink(entry).string();
+        } else if (entry.is_regular_file()) {
+            const std::string content = FolderTest::Read(entry.path());
+            text << " file " << (content.size() > 200 ? std::to_string(std::hash<std::string>()(content)) : content);
+        } else {
+            text << (entry.is_directory() ? " folder" : " other");
+        }
+        tree[entry.path().string().substr(folder.size() + 1)] = text.str();
     }
     return tree;
 }

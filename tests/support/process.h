@@ -36,8 +36,7 @@ Outcome RunProcess(const std::vector<std::string>& arguments, const Environment&
 
 // What a running client does. Each tells its process id first.
 namespace manners {
-constexpr char kPrompt[] = "echo $$; exec sleep 60";                             // ends on SIGTERM
-constexpr char kSlow[] = "trap 'sleep 1.2; exit 7' TERM; echo $$; read -r <&3";  // ends a while after SIGTERM
+constexpr char kPrompt[] = "echo $$; exec sleep 60";  // ends on SIGTERM
 constexpr char kDeaf[] =
     "trap 'echo term' TERM; echo $$; while read -r <&3; do :; done";  // tells of SIGTERM, and stays
 }  // namespace manners

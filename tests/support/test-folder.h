@@ -17,6 +17,11 @@ namespace fs = std::filesystem;
 
 // Gives each test an empty folder of its own, removed when the test has passed; that of a failed one is kept and named.
 class FolderTest : public ::testing::Test {
+public:
+    // Writes a file, parents included; reads one. Fail the test when they can't.
+    static void Write(const std::string& path, const std::string& bytes);
+    static std::string Read(const std::string& path);
+
 protected:
     FolderTest();
     ~FolderTest() override;
@@ -24,10 +29,6 @@ protected:
     // The folder's absolute path, UTF-8, symbolic links resolved, without a trailing "/"; and a path below it.
     const std::string& folder() const { return folder_; }
     std::string At(const std::string& name) const { return folder_ + "/" + name; }
-
-    // Writes a file, parents included; reads one. Fail the test when they can't.
-    static void Write(const std::string& path, const std::string& bytes);
-    static std::string Read(const std::string& path);
 
     // What `action` writes to the standard error stream of this process.
     static std::string StandardErrorOf(const std::function<void()>& action);

@@ -5,11 +5,14 @@
 #include <cstdint>
 #include <string>
 
+// The log's component of every service.
+constexpr char kServiceComponent[] = "service_debug";
+
 // What is the same on every platform: the version data, the install with its backup and rollback, the migration.
 //
 // "Source" is what is installed in the private copy, "target" what the started bundle carries. A service is made on the
 // main thread once the path table is filled, used on the handler thread only, and deleted on the main thread after that
-// thread has ended. Operations report by int or bool and by the log (component "service_debug"); nothing is thrown.
+// thread has ended. Operations report by int or bool and by the log; nothing is thrown.
 class Service {
 public:
     virtual ~Service();

@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr char kComponent[] = "service_debug";
-
 // How long a client may take to quit. Service's own time limit plays no part in it.
 constexpr int kStopProbes = 15;
 constexpr unsigned kStopProbeSeconds = 1;
@@ -34,7 +32,7 @@ void StopProcess(pid_t process) {
             return;
         }
         const int error = errno;
-        KQ_LOG_ERROR(kComponent, "kill: %s (%d)\n", std::strerror(error), error);
+        KQ_LOG_ERROR(kServiceComponent, "kill: %s (%d)\n", std::strerror(error), error);
     }
     for (int probe = 0; probe < kStopProbes; ++probe) {
         // Any other failure than "no such process" counts as still running.
@@ -68,23 +66,23 @@ void MacService::LoadTargetVerInfo() {
 void MacService::PreUpgrade() {
     LoadTargetVersion();
     LoadSourceVersion();
-    KQ_LOG_DEBUG(kComponent, "Source version: ('%s', '%s')\n", sourceBuildVersion.c_str(),
+    KQ_LOG_DEBUG(kServiceComponent, "Source version: ('%s', '%s')\n", sourceBuildVersion.c_str(),
                  sourceIconOverlayVersion.c_str());
-    KQ_LOG_DEBUG(kComponent, "Target version: ('%s', '%s')\n", targetBuildVersion.c_str(),
+    KQ_LOG_DEBUG(kServiceComponent, "Target version: ('%s', '%s')\n", targetBuildVersion.c_str(),
                  targetIconOverlayVersion.c_str());
 }
 
 bool MacService::IsNeedUpgrade() {
     const int source = BuildNumber(sourceBuildVersion);
     const int target = BuildNumber(targetBuildVersion);
-    KQ_LOG_DEBUG(kComponent, "source version = %d, target version = %d\n", source, target);
+    KQ_LOG_DEBUG(kServiceComponent, "source version = %d, target version = %d\n", source, target);
     const bool installed = PerUserBinPathExist();
     return target > source || !installed;
 }
 
 int MacService::HandlePackageUpgrade() {
     if (PerUserBinPathExist()) {
-        KQ_LOG_DEBUG(kComponent, "local appdata exist\n");
+        KQ_LOG_DEBUG(kServiceComponent, "local appdata exist\n");
         StopService();
     } else {
         // A first install, perhaps from the older product. Its folder is taken over only in the exact spelling: not
@@ -101,7 +99,7 @@ int MacService::HandlePackageUpgrade() {
 void MacService::PostUpgrade() {
     if (LaunchPerUserBin() < 0) {
         // The older product's name, deliberately: support looks for the line so.
-        KQ_LOG_ERROR(kComponent, "Failed to launch Tessaly UI\n");
+        KQ_LOG_ERROR(kServiceComponent, "Failed to launch Tessaly UI\n");
     }
 }
 
@@ -114,7 +112,7 @@ int MacService::LaunchPerUserBin() {
     const QString application = TablePath(kUserKelvaneQuayAppPath);
     if (platform::ForgetApplication(application) != 0) {
         // No newline of its own: the log's readers know the line so.
-        KQ_LOG_ERROR(kComponent, "Cannot unregister bundle, %s", application.toUtf8().constData());
+        KQ_LOG_ERROR(kServiceComponent, "Cannot unregister bundle, %s", application.toUtf8().constData());
     }
     return platform::StartApplication(application, TablePath(kUserKelvaneQuayUiPath)) ? 0 : -1;
 }
@@ -126,13 +124,13 @@ void MacService::StopService() {
 void MacService::StopServiceByPath(const QString& folder) {
     const std::string file = (folder + "/" + kPidFile).toStdString();
     if (!IsFileExist(file, false)) {
-        KQ_LOG_DEBUG(kComponent, "pid file '%s' does not exist, no need to terminate\n", file.c_str());
+        KQ_LOG_DEBUG(kServiceComponent, "pid file '%s' does not exist, no need to terminate\n", file.c_str());
         return;
     }
     Config pidFile;
     // An empty value names no process.
     if (pidFile.read(file) < 0 || pidFile["pid"].empty()) {
-        KQ_LOG_NOTE(kComponent, "Failed to read pid file '%s', not exist ?\n", file.c_str());
+        KQ_LOG_NOTE(kServiceComponent, "Failed to read pid file '%s', not exist ?\n", file.c_str());
         return;
     }
     // Whatever number it is, and whosever process, deliberately: the client's file is trusted.

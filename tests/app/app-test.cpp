@@ -2,7 +2,6 @@
 #include <archive_entry.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QProgressBar>
 
 #include "extractor.h"
@@ -119,16 +118,6 @@ TEST_F(AppTest, ATreeIsCopied) {
         EXPECT_NE(log.find(expected), std::string::npos) << log;
     }
     EXPECT_EQ(Read(At("copy")), "#!");
-}
-
-TEST_F(AppTest, PathsBelowTheApplicationFolder) {
-    const PackageInfo info;
-    const std::string application = QCoreApplication::applicationDirPath().toStdString();
-    EXPECT_EQ(info.imagesPath, application + "/images");
-    EXPECT_EQ(info.logPath, QDir::homePath().toStdString() + "/.KelvaneQuay_log");
-    EXPECT_EQ(info.debugConfPath, application + "/log/launcher.debug");
-    EXPECT_EQ(info.packagePath, application + "/package/tessaly.kpk");
-    EXPECT_EQ(info.confPath, application + "/conf");
 }
 
 TEST_F(AppTest, WorkIsDoneOnceInWhateverOrder) {

@@ -44,7 +44,6 @@ std::vector<PackageEntry> LauncherTest::ClientEntries(int build) {
             {"Contents/Resources/empty/", "", S_IFDIR, 0755},
             {"Contents/Resources/Größe und 日本語.txt", "non-ASCII"},
             {"Contents/Resources/large", std::string(300000, static_cast<char>('a' + build % 26))},
-            {"Contents/Resources/tool", "#!/bin/sh\n", S_IFREG, 0755},
             {"Contents/MacOS/", "", S_IFDIR, 0755},
             {"Contents/MacOS/cloud-quay-ui", script, S_IFREG, 0755},
             {"Contents/Resources/INFO", Info(build)}};

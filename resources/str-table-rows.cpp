@@ -2,7 +2,7 @@
 // The position is the row number, which the programs of the family share: append rows, never move one.
 // lupdate reads the texts from here (context "global"); the catalogs beside this file hold the translations.
 // A `//:` comment is for translators and goes into every catalog. It begins with the kind of control that the text is
-// on, one of those that have a width in scripts/catalog_rules.py, or several with "/" between, then says where the text
+// on, one of those that have a width in scripts/check-catalogs, or several with "/" between, then says where the text
 // stands, what its placeholders become, and what could be mistaken. Where several rows have one text, the first has the
 // comment for all of them. A row without one is a message that speaks for itself.
 

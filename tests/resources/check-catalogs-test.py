@@ -8,12 +8,12 @@ import subprocess
 import sys
 import tempfile
 import unittest
+from importlib.machinery import SourceFileLoader
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(PROJECT / "scripts"))
-from catalog_files import Unreadable, read_catalog  # noqa: E402
-from catalog_rules import Checker  # noqa: E402
+sys.dont_write_bytecode = True
+check_catalogs = SourceFileLoader("check_catalogs", str(PROJECT / "scripts/check-catalogs")).load_module()
 
 LINK = '<a href="https://help.kelvane.example/client">Learn more</a>'
 FIELD = "This is a required field."
@@ -86,10 +86,10 @@ class CheckCatalogsTest(unittest.TestCase):
         self.assertEqual(run().returncode, 2)
 
     def test_defects_of_texts(self):
-        checker = Checker(self.resources)
+        checker = check_catalogs.Checker(self.resources)
         for code, kind, english, part, instead in TEXT_DEFECTS:
             with self.subTest(code=code, kind=kind):
-                root = read_catalog(self.resources / f"catalogs/{code}.ts")
+                root = check_catalogs.read_catalog(self.resources / f"catalogs/{code}.ts")
                 message = next(one for one in root.iter("message") if one.findtext("source") == english)
                 translation = message.find("translation")
                 self.assertIn(part or "", translation.text)
@@ -101,9 +101,10 @@ class CheckCatalogsTest(unittest.TestCase):
             with self.subTest(name=name, part=part, instead=instead):
                 good = self.replace(name, part, instead)
                 try:
-                    defects = Checker(self.resources).defects("ger", read_catalog(self.resources / "catalogs/ger.ts"))
+                    root = check_catalogs.read_catalog(self.resources / "catalogs/ger.ts")
+                    defects = check_catalogs.Checker(self.resources).defects("ger", root)
                     found = " ".join(sorted({kind for _, kind, _ in defects}))
-                except Unreadable:
+                except check_catalogs.Unreadable:
                     found = None
                 (self.resources / name).write_text(good, "utf-8")
                 self.assertEqual(found, kinds)

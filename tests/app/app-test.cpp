@@ -7,7 +7,6 @@
 #include "extractor.h"
 #include "launcher.h"
 #include "mac/mac-service.h"
-#include "package.h"
 #include "path-table.h"
 #include "posix/archive.h"
 #include "resources/str-table.h"

@@ -104,14 +104,12 @@ Tree LauncherTest::HomeWith(int build, Tree others) const {
 }
 
 Lines LauncherTest::LogLines() const {
-    static const std::regex form(
-        R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d \( *\d+: *\d+\) (\[[A-Z]+\]) [a-z-]+\.cpp\(\d+\): (.*))");
+    static const std::regex start(
+        R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d \( *\d+: *\d+\) (\[[A-Z]+\] )[a-z-]+\.cpp\(\d+\): )");
+    std::istringstream text(std::regex_replace(Read(Private("log/launcher.log")), start, "$1"));
     Lines lines;
-    std::istringstream text(Read(Private("log/launcher.log")));
     for (std::string line; std::getline(text, line);) {
-        std::smatch match;
-        EXPECT_TRUE(std::regex_match(line, match, form)) << line;
-        lines.push_back(match[1].str() + " " + match[2].str());
+        lines.push_back(line);
     }
     return lines;
 }

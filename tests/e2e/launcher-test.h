@@ -1,7 +1,6 @@
 // The built launcher on a bundle and a home that are made for the test.
 #pragma once
 
-#include "package.h"
 #include "process.h"
 #include "test-folder.h"
 

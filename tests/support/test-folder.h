@@ -1,4 +1,4 @@
-// A fresh folder for each test, and what a machine must be able to do for some.
+// A fresh folder for each test, the packages and trees in it, and what a machine must be able to do for some tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -36,6 +36,24 @@ protected:
 private:
     std::string folder_;
 };
+
+// One entry of an archive.
+struct PackageEntry {
+    std::string path;
+    std::string content;      // of a file; the target of a link
+    unsigned type = S_IFREG;  // S_IFREG, S_IFDIR, S_IFLNK or S_IFIFO
+    unsigned mode = 0644;     // permission bits
+};
+
+// Writes an archive with the entries in the given order. `format` is one that libarchive's writer knows by name: "zip",
+// "pax", "gnutar", "7zip"; `filter` is "gzip", "xz" or nothing. Fails the test when it can't.
+void WritePackage(const std::string& file, const std::vector<PackageEntry>& entries, const std::string& format = "zip",
+                  const std::string& filter = "");
+
+// What lies below a folder: for each relative path a line that tells its type, its permission bits and, for a file or a
+// link, its content (long ones by a digest). Two trees are the same if their maps are.
+using Tree = std::map<std::string, std::string>;
+Tree ReadTree(const std::string& folder);
 
 // What not every machine and every user can do: be another user; see and change a program's system calls, by strace(1);
 // and tell those calls from a sanitizer's.

@@ -5,7 +5,6 @@
 #include "file/internal.h"
 #include "file/tmp-name.h"
 #include "log/logger.h"
-#include "package.h"
 #include "test-folder.h"
 #include "volume.h"
 

@@ -1,12 +1,11 @@
 #include <sys/stat.h>
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
-#include "checks.h"
 #include "commands.h"
 #include "files.h"
 #include "platform/exchange.h"
@@ -25,7 +24,6 @@ QByteArray OwnFile(const char* name) {
 
 // Lays the bundle into an empty folder.
 Error Lay(const CommandLine& line, const std::string& installedAt, const Package& package, const std::string& folder) {
-    const auto isInfo = [](const Entry& entry) { return entry.path == kInfoFile; };
     const VersionInfo& versions = package.versions;
     const QString version = Q(versions.majorVersion.value_or("0") + "." + versions.minorVersion.value_or("0"));
     const struct {
@@ -35,9 +33,7 @@ Error Lay(const CommandLine& line, const std::string& installedAt, const Package
     } parts[] = {
         {kLauncherFile, line.Path("launcher"), {}},
         {kPackageFile, package.file, {}},
-        {kInfoFile,
-         {},
-         QByteArray::fromStdString(std::find_if(package.entries.begin(), package.entries.end(), isInfo)->content)},
+        {kInfoFile, {}, QByteArray::fromStdString(package.entries.back().content)},
         {kIconFile, line.Path("icon"), OwnFile("ico_72_tessaly.png")},
         {kLevelFile, line.Path("levels"), {}},
         {kSystemIconFile, {}, OwnFile("KelvaneQuay.icns")},
@@ -51,13 +47,19 @@ Error Lay(const CommandLine& line, const std::string& installedAt, const Package
     };
     Error error;
     for (const auto& part : parts) {
-        const std::string file = folder + "/" + part.file;
+        QFile file;
+        QBuffer bytes;
+        bytes.setData(part.bytes);
+        bytes.open(QIODevice::ReadOnly);
+        const bool isCopied = !part.from.empty();
+        QIODevice& source = isCopied ? static_cast<QIODevice&>(file) : bytes;
         const bool isProgram =
             part.file == kLauncherFile && QFileInfo(QString::fromStdString(part.from)).isExecutable();
-        if (!error && !part.from.empty()) {
-            error = CopyFile(part.from, file, isProgram ? 0755 : 0644);
-        } else if (!error && !part.bytes.isEmpty()) {
-            error = WriteFile(file, {part.bytes.constData(), static_cast<std::size_t>(part.bytes.size())}, 0644);
+        if (!error && isCopied) {
+            error = OpenFile(part.from, true, file);
+        }
+        if (!error && (isCopied || bytes.size() > 0)) {
+            error = WriteFile(folder + "/" + part.file, source, isProgram ? 0755 : 0644);
         }
     }
     return error;
@@ -65,16 +67,13 @@ Error Lay(const CommandLine& line, const std::string& installedAt, const Package
 
 // Whether a bundle, an empty folder or nothing stands at the path: anything else is not replaced.
 bool MayReplace(const std::string& path) {
-    Entry there;
-    std::error_code failure;
-    return !Exists(path) || (Look(path, "", there) && there.kind == Kind::Folder &&
-                             (Exists(path + "/" + kLauncherFile) || fs::is_empty(path, failure)));
+    return !KindAt(path) || IsEmptyFolder(path) || (KindAt(path) == Kind::Folder && KindAt(path + "/" + kLauncherFile));
 }
 
 // Puts the laid folder into its place in one step; what stood there is then where the laid folder was. On a file system
 // that knows no such step what stood there comes back, whatever happens short of a kill.
 Error PutInPlace(const std::string& laid, const std::string& output) {
-    if (!Exists(output)) {
+    if (!KindAt(output)) {
         return std::rename(laid.c_str(), output.c_str()) == 0 ? Error() : Error::System(output);
     }
     if (platform::ExchangePaths(laid, output) == 0) {
@@ -92,26 +91,20 @@ Error PutInPlace(const std::string& laid, const std::string& output) {
     return std::rename(old.c_str(), laid.c_str()) == 0 ? Error() : Error::System(old);
 }
 
-bool IsGoodPlace(const std::string& path) {
-    return !path.empty() && path[0] == '/' && Printable(path) == path &&
-           path.find_first_of("\"`$%\\") == std::string::npos;
-}
-
 }  // namespace
 
 Error RunBundle(const CommandLine& line, Report& report) {
     umask(022);  // whoever makes the bundle makes it for everyone
     const std::string output = line.Path("output");
     const std::string installedAt = line.Value("installed-at", "/opt/KelvaneQuay.app");
-    std::int64_t limit = 0;
     Package package;
-    Error error = line.Take(report.findings, limit);
-    if (!IsGoodPlace(installedAt)) {
+    Error error;
+    if (!Matches(Q(installedAt), QStringLiteral("/[^\"`$%\\\\]*"))) {
         error = Error("--installed-at: an absolute path without quotes and the like is wanted");
     } else if (!MayReplace(output)) {
         error = Error(output + ": stands there already, and is no bundle");
     }
-    error = error ? error : CheckPackage(line.Path("package"), limit, package, report.findings);
+    error = error ? error : CheckPackage(line.Path("package"), line.Limit(), package, report.findings);
     report.Set("output", output);
     report.Set("installed_at", installedAt);
     report.Set("versions", ToJson(package.versions));
@@ -123,7 +116,7 @@ Error RunBundle(const CommandLine& line, Report& report) {
         }
         VersionInfo versions;
         error = Lay(line, installedAt, package, path);
-        error = error ? error : CheckBundle(path, limit, &package, versions, report.findings);
+        error = error ? error : CheckBundle(path, line.Limit(), &package, versions, report.findings);
         if (!error && report.findings.IsEmpty()) {
             std::error_code failure;
             error = IsInterrupted() ? Error("interrupted") : PutInPlace(path, output);

@@ -2,21 +2,72 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 #include <QTemporaryDir>
+#include <filesystem>
 
-#include "checks.h"
 #include "commands.h"
+#include "extractor.h"
+#include "files.h"
+#include "log/logger.h"
+#include "notify-adapter.h"
+#include "product-layout.h"
+#include "progress.h"
+#include "resources/str-table.h"
 #include "text.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
 void PrintCodes(Report& report) {
     QJsonArray codes;
     report.Say("| code | what | why it matters | how to mend it |\n|---|---|---|---|");
-    for (const Defect* defect : defects::kAll) {
-        codes.append(ToJson(*defect));
-        report.Say("| " + IdOf(*defect) + " | " + defect->what + " | " + defect->why + " | " + defect->mend + " |");
+    for (const auto& [defect, texts] : AllDefects()) {
+        codes.append(ToJson(defect));
+        report.Say("| " + IdOf(defect) + " | " + texts.what + " | " + texts.why + " | " + texts.mend + " |");
     }
     report.Set("codes", codes);
+}
+
+// Unpacks a package that has passed by the launcher's own extractor into a home that is made in `scratch`, and compares
+// what is there with the package. Then asks the launcher's own decision whether a start of `bundle` (or, where that is
+// empty, of what is installed) would install again.
+Error Rehearse(const Package& package, const std::string& bundle, const std::string& scratch, Findings& findings) {
+    const std::string home = scratch + "/home";
+    const std::string folder = home + "/" + kPrivateFolder + "/" + kApplicationFolder;
+    const std::string log = scratch + "/log";
+    fs::create_directories(folder);
+    StrTable::InitStrTable();  // the extractor sends one of its texts
+    Logger::Initialize(Logger::TYPE_FILE, log, "", 1, Logger::SCOPE_THREAD);
+    Progress progress("rehearsing", static_cast<std::int64_t>(package.entries.size()));
+    const QMetaObject::Connection connection =
+        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, [&progress, &scratch] {
+            if (progress.Advance(1)) {
+                std::error_code failure;
+                fs::remove_all(scratch, failure);
+                EndInterrupted();  // the extractor knows no way to stop
+            }
+        });
+    Extractor extractor;
+    extractor.sourcePath = package.file;
+    extractor.destPath = folder;
+    const bool isInstalled = extractor.Extract() == 0;
+    QObject::disconnect(connection);
+    Logger::Initialize(Logger::TYPE_STDERR, "", "", 1, Logger::SCOPE_NONE);
+    if (!isInstalled) {
+        std::string text;
+        Error error = ReadFile(log, kLargestText, text);
+        findings.Add(Defect::RehearsalFailed, "",
+                     QString::fromStdString(text).section(QLatin1String("[ERROR] "), -1).trimmed().toStdString());
+        return error;
+    }
+    Error error = Compare(
+        package, folder,
+        {Defect::RehearsalMissing, Defect::RehearsalDiffers, Defect::RehearsalUnexpected, Defect::RehearsalDiffers},
+        findings);
+    if (!error && IsUpgradeDue(home, (bundle.empty() ? folder : bundle) + "/" + kBinariesFolder)) {
+        findings.Add(Defect::RehearsalUpgradesAgain, bundle);
+    }
+    return error;
 }
 
 // Sets "rehearsal": "done", "failed", "skipped" where something was found before, or "off".
@@ -32,7 +83,8 @@ Error RehearseIn(const CommandLine& line, const Package& package, const std::str
         return Error(path + ": no room for the rehearsal, which takes " + SizeText(package.bytes));
     }
     Error error = Rehearse(package, bundle, path, report.findings);
-    report.Set("rehearsal", std::string(report.findings.Has(defects::RehearsalFailed) ? "failed" : "done"));
+    report.Set("rehearsal",
+               std::string(report.findings.found().count(Defect::RehearsalFailed) != 0 ? "failed" : "done"));
     if (line.IsSet("keep")) {
         scratch.setAutoRemove(false);
         report.Set("kept", path);
@@ -50,14 +102,10 @@ Error RunCheck(const CommandLine& line, Report& report) {
     }
     const std::string operand = line.Operand();
     const bool isBundle = QFileInfo(QString::fromStdString(operand)).isDir();
-    std::int64_t limit = 0;
     Package package;
     VersionInfo versions;
-    Error error = line.Take(report.findings, limit);
-    if (!error) {
-        error = isBundle ? CheckBundle(operand, limit, &package, versions, report.findings)
-                         : CheckPackage(operand, limit, package, report.findings);
-    }
+    Error error = isBundle ? CheckBundle(operand, line.Limit(), &package, versions, report.findings)
+                           : CheckPackage(operand, line.Limit(), package, report.findings);
     error = error ? error : RehearseIn(line, package, isBundle ? operand : "", report);
     report.Set("operand", operand);
     report.Set("kind", std::string(isBundle ? "bundle" : "package"));

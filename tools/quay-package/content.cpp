@@ -5,41 +5,39 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryFile>
-#include <algorithm>
 #include <memory>
+
+#include "text.h"
 
 namespace {
 
 // Numbers in a program's front; what lies behind its end is 0.
-class Numbers {
-public:
-    Numbers(const std::string& front, std::int64_t size, bool isBig)
-        : front_(front), size_(static_cast<std::uint64_t>(size)), isBig_(isBig) {}
+struct Numbers {
+    const std::string& front;
+    const std::uint64_t size;  // of the file
+    const bool isBig;
 
     std::uint64_t At(std::uint64_t at, unsigned width) const {
         std::uint64_t value = 0;
         for (unsigned index = 0; index < width; ++index) {
-            const std::uint64_t from = at + (isBig_ ? index : width - 1 - index);
-            value = value << 8 | (from < front_.size() ? static_cast<unsigned char>(front_[from]) : 0U);
+            const std::uint64_t from = at + (isBig ? index : width - 1 - index);
+            value = value << 8 | (from < front.size() ? static_cast<unsigned char>(front[from]) : 0U);
         }
         return value;
     }
-    bool IsInFile(std::uint64_t from, std::uint64_t length) const { return from <= size_ && length <= size_ - from; }
+    bool IsInFile(std::uint64_t from, std::uint64_t length) const { return from <= size && length <= size - from; }
     bool IsInFront(std::uint64_t from, std::uint64_t length) const {
-        return from <= front_.size() && length <= front_.size() - from;
+        return from <= front.size() && length <= front.size() - from;
     }
-
-private:
-    const std::string& front_;
-    const std::uint64_t size_;
-    const bool isBig_;
 };
 
 // Header, program headers with something to load, what they load, and section headers lie within the file.
-bool IsWholeElf(const std::string& front, std::int64_t size) {
-    const bool is64 = Numbers(front, size, true).At(4, 1) == 2;
-    const Numbers numbers(front, size, Numbers(front, size, true).At(5, 1) == 2);
+bool IsWholeElf(const std::string& front, std::uint64_t size) {
+    const Numbers numbers{front, size, front.size() > 5 && front[5] == 2};
+    const bool is64 = numbers.At(4, 1) == 2;
     const unsigned width = is64 ? 8 : 4;
     const std::uint64_t type = numbers.At(16, 2);
     const std::uint64_t programs = numbers.At(is64 ? 32 : 28, width);
@@ -57,9 +55,6 @@ bool IsWholeElf(const std::string& front, std::int64_t size) {
     return isWhole && loads;
 }
 
-constexpr std::uint64_t kMach64 = 0xfeedfacf;  // in the byte order of all processors that are left
-constexpr std::uint64_t kFat = 0xcafebabe;
-
 // The files for each kind of processor lie within the file.
 bool IsWholeFat(const Numbers& numbers) {
     const std::uint64_t count = numbers.At(4, 4);
@@ -71,8 +66,7 @@ bool IsWholeFat(const Numbers& numbers) {
 }
 
 // Load commands, and the segments that they name, lie within the file.
-bool IsWholeMachO(const std::string& front, std::int64_t size) {
-    const Numbers numbers(front, size, false);
+bool IsWholeMachO(const Numbers& numbers) {
     std::uint64_t at = 32;
     std::uint64_t left = numbers.At(16, 4);
     bool isWhole = numbers.At(12, 4) == 2 && left > 0 && numbers.IsInFront(at, numbers.At(20, 4));
@@ -93,42 +87,71 @@ bool IsScript(const std::string& front) {
            front.find('\n') != std::string::npos;
 }
 
+// What a line of a desktop entry may be: a comment, a group's header, or a key with its value. The categories are those
+// of freedesktop.org, Desktop Menu 1.1, "Registered Categories".
+constexpr char kLine[] =
+    R"((#.*)?|\[Desktop Entry\]|\[(Desktop Action |X-)[^\[\]]+\]|X-[A-Za-z0-9-]+(\[[\w.@-]+\])? *=.*|)"
+    R"((Name|GenericName|Comment|Icon|Keywords)(\[[\w.@-]+\])? *=.*|)"
+    R"((TryExec|Exec|Path|StartupWMClass|OnlyShowIn|NotShowIn|Actions|MimeType|Implements) *=.*|)"
+    R"((NoDisplay|Hidden|DBusActivatable|Terminal|StartupNotify|PrefersNonDefaultGPU) *= *(true|false) *|)"
+    R"(Type *= *Application *|Version *= *1\.[0-5] *|Categories *= *((X-[^;]+|AudioVideo|Audio|Video|Development|)"
+    "Education|Game|Graphics|Network|Office|Science|Settings|System|Utility|Building|Debugger|IDE|GUIDesigner|"
+    "Profiling|RevisionControl|Translation|Calendar|ContactManagement|Database|Dictionary|Chart|Email|Finance|"
+    "FlowChart|PDA|ProjectManagement|Presentation|Spreadsheet|WordProcessor|2DGraphics|VectorGraphics|RasterGraphics|"
+    "3DGraphics|Scanning|OCR|Photography|Publishing|Viewer|TextTools|DesktopSettings|HardwareSettings|Printing|"
+    "PackageManager|Dialup|InstantMessaging|Chat|IRCClient|Feed|FileTransfer|HamRadio|News|P2P|RemoteAccess|Telephony|"
+    "TelephonyTools|VideoConference|WebBrowser|WebDevelopment|Midi|Mixer|Sequencer|Tuner|TV|AudioVideoEditing|Player|"
+    "Recorder|DiscBurning|Music|Languages|Astronomy|Geography|Maps|Security|Accessibility|Archiving|Compression|"
+    "Electronics|Emulator|Engineering|FileTools|FileManager|TerminalEmulator|Filesystem|Monitor|Calculator|Clock|"
+    "TextEditor|Documentation|Core|KDE|GNOME|XFCE|GTK|Qt|Motif|Java|ConsoleOnly)(;|$))*";
+
+// An argument of a command, in quotes or without.
+constexpr char kArgument[] = R"(("([^"`$\\%]|\\["`$\\]|%[fFuUick%])*"|([^ \t\n"'\\><~|&;$*?#()`%]|%[fFuUick%])+))";
+
+// The program of a command, or an empty text if it breaks the rules of quoting or of field codes.
+QString ProgramOf(QString command) {
+    const QString argument = QString::fromLatin1(kArgument);
+    command = command.trimmed().replace(QLatin1String("\\\\"), QLatin1String("\\"));  // the format's own escape
+    if (!Matches(command, argument + QStringLiteral("( +") + argument + QStringLiteral(")*")) ||
+        QString(command).remove(QLatin1String("%%")).count(QRegularExpression(QStringLiteral("%[fFuU]"))) > 1) {
+        return {};
+    }
+    const QString first = QRegularExpression(argument).match(command).captured(0);
+    return first.startsWith(QLatin1Char('"'))
+               ? first.mid(1, first.size() - 2)
+                     .replace(QRegularExpression(QStringLiteral(R"(\\(.))")), QStringLiteral("\\1"))
+               : first;
+}
+
 }  // namespace
 
-bool BeginsAsProgram(const std::string& front) {
-    const std::uint64_t magic = Numbers(front, 0, true).At(0, 4);
-    return magic >> 16 == 0x2321 || magic == 0x7f454c46 || magic == kFat ||
-           Numbers(front, 0, false).At(0, 4) == kMach64;
+Program Recognise(const std::string& front, std::int64_t bytes) {
+    const auto size = static_cast<std::uint64_t>(bytes);
+    const auto ifWhole = [](bool isWhole, Program program) { return isWhole ? program : Program::Broken; };
+    const Numbers big{front, size, true};
+    const Numbers little{front, size, false};  // as have all processors that are left
+    if (front.compare(0, 2, "#!") == 0) {
+        return ifWhole(IsScript(front), Program::Script);
+    }
+    if (big.At(0, 4) == 0x7f454c46) {
+        return ifWhole(IsWholeElf(front, size), Program::Elf);
+    }
+    if (big.At(0, 4) == 0xcafebabe) {
+        return ifWhole(IsWholeFat(big), Program::MachO);
+    }
+    return little.At(0, 4) == 0xfeedfacf ? ifWhole(IsWholeMachO(little), Program::MachO) : Program::None;
 }
 
-Program Recognise(const std::string& front, std::int64_t size) {
-    if (!BeginsAsProgram(front)) {
-        return Program::None;
-    }
-    if (front[0] == '#') {
-        return IsScript(front) ? Program::Script : Program::None;
-    }
-    if (front[0] == 0x7f) {
-        return IsWholeElf(front, size) ? Program::Elf : Program::None;
-    }
-    const bool isFat = front.compare(0, 1, "\xca") == 0;
-    return (isFat ? IsWholeFat(Numbers(front, size, true)) : IsWholeMachO(front, size)) ? Program::MachO
-                                                                                        : Program::None;
-}
-
-bool PropertyListValue(const std::string& bytes, const std::string& key, std::string& value) {
+std::string ExecutableOf(const std::string& propertyList) {
     plist_t list = nullptr;
-    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &list);
+    plist_from_memory(propertyList.data(), static_cast<std::uint32_t>(propertyList.size()), &list);
     const std::unique_ptr<void, decltype(&plist_free)> owner(list, plist_free);
     const bool isDictionary = list != nullptr && plist_get_node_type(list) == PLIST_DICT;
-    plist_t item = isDictionary ? plist_dict_get_item(list, key.c_str()) : nullptr;
-    if (item == nullptr || plist_get_node_type(item) != PLIST_STRING) {
-        return false;
-    }
+    plist_t item = isDictionary ? plist_dict_get_item(list, "CFBundleExecutable") : nullptr;
     std::uint64_t length = 0;
-    const char* text = plist_get_string_ptr(item, &length);
-    value.assign(text, length);
-    return true;
+    const bool isText = item != nullptr && plist_get_node_type(item) == PLIST_STRING;
+    const char* text = isText ? plist_get_string_ptr(item, &length) : "";
+    return std::string(text, length);
 }
 
 bool IsIcon(const std::string& bytes) {
@@ -138,6 +161,40 @@ bool IsIcon(const std::string& bytes) {
     QImageReader reader(&buffer, "PNG");
     const QSize size = reader.size();
     return size.isValid() && size.width() <= largest && size.height() <= largest && !reader.read().isNull();
+}
+
+std::string DesktopEntryFault(const std::string& bytes, const std::string& program) {
+    if (!IsUtf8(bytes)) {
+        return "it is not UTF-8";
+    }
+    QSet<QString> seen;  // groups, and keys with their groups
+    QString group;
+    for (const QString& line : QString::fromStdString(bytes).split(QLatin1Char('\n'))) {
+        const bool isHeader = line.startsWith(QLatin1Char('['));
+        const bool isKey = !line.isEmpty() && !isHeader && !line.startsWith(QLatin1Char('#'));
+        const bool isInPlace =
+            isHeader ? group.isEmpty() == (line == QLatin1String("[Desktop Entry]")) : !isKey || !group.isEmpty();
+        group = isHeader ? line : group;
+        const QString key = line.section(QLatin1Char('='), 0, 0).trimmed();
+        const QString place = group + (isKey ? key : QString());
+        if (!isInPlace || ((isKey || isHeader) && seen.contains(place)) ||
+            !Matches(line,
+                     group.startsWith(QLatin1String("[X-")) ? QStringLiteral(".*") : QString::fromLatin1(kLine))) {
+            return "the line \"" + line.toStdString() + "\" has no place there";
+        }
+        seen.insert(place);
+        const QString starts = key == QLatin1String("Exec") ? ProgramOf(line.section(QLatin1Char('='), 1)) : QString();
+        if (key == QLatin1String("Exec") &&
+            (!starts.startsWith(QLatin1Char('/')) || !starts.endsWith(QString::fromStdString("/" + program)))) {
+            return "it starts \"" + starts.toStdString() + "\"";
+        }
+    }
+    for (const char* key : {"Type", "Name", "Exec"}) {
+        if (!seen.contains(QLatin1String("[Desktop Entry]") + QLatin1String(key))) {
+            return std::string("it has no ") + key;
+        }
+    }
+    return {};
 }
 
 Error ReadVersions(const std::string& bytes, VersionInfo& versions) {
@@ -150,7 +207,6 @@ Error ReadVersions(const std::string& bytes, VersionInfo& versions) {
 }
 
 bool IsBuildNumber(const std::string& text) {
-    bool isNumber = false;
-    return QString::fromStdString(text).toInt(&isNumber) > 0 && isNumber && text[0] >= '1' && text[0] <= '9' &&
-           text.find_first_not_of("0123456789") == std::string::npos;
+    const int number = QString::fromStdString(text).toInt();
+    return number > 0 && std::to_string(number) == text;
 }

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "error.h"
+#include "finding.h"
 #include "version-info.h"
 
 // How much of a program Recognise() looks at, and how large the other files may be.
@@ -12,18 +12,15 @@ inline constexpr std::size_t kProgramFront = 1 << 16;
 inline constexpr std::size_t kLargestInfo = 1 << 16;
 inline constexpr std::size_t kLargestText = 1 << 20;
 
-enum class Program { None, Script, Elf, MachO };
+enum class Program { None, Broken, Script, Elf, MachO };
 
-// What a file is whose first bytes, up to kProgramFront, are `front`. A file of `size` bytes that is shorter than its
-// own headers say is None. Sources: elf(5), <mach-o/loader.h>, <mach-o/fat.h>, execve(2).
-Program Recognise(const std::string& front, std::int64_t size);
+// What a file of so many bytes is whose first ones, up to kProgramFront, are `front`. One that begins as a program and
+// is shorter than its own headers say is Broken. Sources: elf(5), <mach-o/loader.h>, <mach-o/fat.h>, execve(2).
+Program Recognise(const std::string& front, std::int64_t bytes);
 
-// Whether it begins as one, cut short or not.
-bool BeginsAsProgram(const std::string& front);
-
-// The text of a key in the top dictionary of a property list, in XML or in binary form. False if there is none, or it
-// is no such list. Source: libplist.
-bool PropertyListValue(const std::string& bytes, const std::string& key, std::string& value);
+// The program that an application's property list names, in XML or in binary form; empty if it names none, or is no
+// such list. Source: libplist.
+std::string ExecutableOf(const std::string& propertyList);
 
 // Whether the bytes are a PNG image that can be decoded and is of a size for a dialog.
 bool IsIcon(const std::string& bytes);

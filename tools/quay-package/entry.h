@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -46,3 +47,9 @@ struct Entry {
     std::uint64_t inode = 0;
     std::uint64_t names = 0;  // hard links
 };
+
+// The first one of this path, or the end.
+template <typename Entries>
+auto FindEntry(Entries& entries, const char* path) {
+    return std::find_if(entries.begin(), entries.end(), [path](const Entry& entry) { return entry.path == path; });
+}

@@ -39,12 +39,12 @@ Error ReadFile(const std::string& path, std::size_t limit, std::string& bytes) {
     return error;
 }
 
-Error ReadBlocks(QFile& file, const std::function<Error(std::string_view block)>& take) {
+Error ReadBlocks(QIODevice& source, const std::function<Error(std::string_view block)>& take) {
     std::string block(kBlockSize, '\0');
     while (!IsInterrupted()) {
-        const qint64 got = file.read(block.data(), static_cast<qint64>(block.size()));
+        const qint64 got = source.read(block.data(), static_cast<qint64>(block.size()));
         if (got <= 0) {
-            return got == 0 ? Error() : Error(file.errorString().toStdString());
+            return got == 0 ? Error() : Error(source.errorString().toStdString());
         }
         if (Error error = take(std::string_view(block).substr(0, static_cast<std::size_t>(got)))) {
             return error;
@@ -53,40 +53,24 @@ Error ReadBlocks(QFile& file, const std::function<Error(std::string_view block)>
     return Error("interrupted");
 }
 
-namespace {
-
-using Fill = std::function<Error(const std::function<Error(std::string_view block)>& write)>;
-
-Error MakeFile(const std::string& path, unsigned mode, const Fill& fill) {
+Error WriteFile(const std::string& path, QIODevice& source, unsigned mode) {
     std::error_code failure;
     fs::create_directories(fs::path(path).parent_path(), failure);
     QFile file(QString::fromStdString(path));
-    const auto fail = [&] { return Error::System(path); };
+    const auto fail = [&path] { return Error::System(path); };
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) ||
         fchmod(file.handle(), static_cast<mode_t>(mode)) != 0) {
         return fail();
     }
-    Error error = fill([&](std::string_view block) {
+    Error error = ReadBlocks(source, [&](std::string_view block) {
         const auto size = static_cast<qint64>(block.size());
         return file.write(block.data(), size) == size ? Error() : fail();
     });
     return error || fsync(file.handle()) == 0 ? error : fail();
 }
 
-}  // namespace
-
-Error WriteFile(const std::string& path, std::string_view bytes, unsigned mode) {
-    return MakeFile(path, mode, [bytes](const auto& write) { return write(bytes); });
-}
-
-Error CopyFile(const std::string& from, const std::string& to, unsigned mode) {
-    QFile source;
-    Error error = OpenFile(from, true, source);
-    return error ? error : MakeFile(to, mode, [&source](const auto& write) { return ReadBlocks(source, write); });
-}
-
 bool Look(const std::string& root, const std::string& path, Entry& entry) {
-    const std::string full = path.empty() ? root : root + "/" + path;
+    const std::string full = root + "/" + path;
     struct stat info = {};
     std::error_code failure;
     if (lstat(full.c_str(), &info) != 0) {
@@ -98,9 +82,14 @@ bool Look(const std::string& root, const std::string& path, Entry& entry) {
     return !failure;
 }
 
-bool Exists(const std::string& path) {
+std::optional<Kind> KindAt(const std::string& path) {
     struct stat info = {};
-    return lstat(path.c_str(), &info) == 0;
+    return lstat(path.c_str(), &info) == 0 ? std::optional(KindOf(info.st_mode)) : std::nullopt;
+}
+
+bool IsEmptyFolder(const std::string& path) {
+    std::error_code failure;
+    return KindAt(path) == Kind::Folder && fs::is_empty(path, failure);
 }
 
 Error ScanTree(const std::string& root, const std::function<std::size_t(const std::string& path)>& wanted,

@@ -3,12 +3,13 @@
 
 #include <QFile>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "entry.h"
-#include "error.h"
+#include "finding.h"
 
 inline constexpr std::size_t kBlockSize = 1 << 16;
 
@@ -19,17 +20,18 @@ Error OpenFile(const std::string& path, bool followsLinks, QFile& file);
 // The first bytes of a regular file, up to `limit`.
 Error ReadFile(const std::string& path, std::size_t limit, std::string& bytes);
 
-// Hands the rest of an open file over in blocks of up to kBlockSize. Stops at the first error of either side.
-Error ReadBlocks(QFile& file, const std::function<Error(std::string_view block)>& take);
+// Hands the rest of what is open over in blocks of up to kBlockSize. Stops at the first error of either side.
+Error ReadBlocks(QIODevice& source, const std::function<Error(std::string_view block)>& take);
 
 // Writes a new file below folders that are made where they are missing. The mode is as given, whatever the umask.
-Error WriteFile(const std::string& path, std::string_view bytes, unsigned mode);
-Error CopyFile(const std::string& from, const std::string& to, unsigned mode);
+Error WriteFile(const std::string& path, QIODevice& source, unsigned mode);
 
-// Describes an object below a folder, or with an empty path the folder, links not followed. False, with errno set, if
-// there is none.
+// Describes an object below a folder, links not followed. False, with errno set, if there is none.
 bool Look(const std::string& root, const std::string& path, Entry& entry);
-bool Exists(const std::string& path);
+
+// What stands at a path, if anything does, links not followed.
+std::optional<Kind> KindAt(const std::string& path);
+bool IsEmptyFolder(const std::string& path);
 
 // Lists all that lies below a folder in the order in which a package holds it: by the bytes of the names, a folder
 // before what it holds. `wanted` says how much of a file's content is read, or kSkip to leave a folder's inside out.

@@ -11,7 +11,7 @@ Error RunList(const CommandLine& line, Report& report) {
     QJsonArray array;
     std::int64_t bytes = 0;
     for (const Entry& entry : entries) {
-        const char* const types[] = {"file", "folder", "link", "special"};
+        const char* const types[] = {"file", "folder", "link"};
         const QString type = QString::fromLatin1(types[static_cast<int>(entry.kind)]);
         const bool isLink = entry.kind == Kind::Link;
         bytes += entry.size;

@@ -9,7 +9,6 @@
 #include "commands.h"
 #include "platform/process-setup.h"
 #include "progress.h"
-#include "rules.h"
 
 namespace {
 
@@ -108,48 +107,52 @@ std::string Help(const Command& command) {
     return parser.helpText().toStdString();
 }
 
-// What is wrong with the usage, if anything is.
-Error CheckUsage(const QCommandLineParser& parser, const Command& command) {
+// What is wrong with the usage, if anything is. Hands what --accept says over.
+Error CheckUsage(const CommandLine& line, const Command& command, Findings& findings) {
     for (const Option& option : kOptions) {
         const QString name = Words(option.name, ',').last();
-        if (parser.isSet(name) && !Has(&command, option)) {
+        if (line.isSet(name) && !Has(&command, option)) {
             return Error("--" + name.toStdString() + " is no option of this command (see --help)");
         }
     }
-    const int operands = *command.operand == '\0' || parser.isSet(QStringLiteral("codes")) ? 0 : 1;
-    if (parser.positionalArguments().size() != operands + 1 || parser.positionalArguments().last().isEmpty()) {
+    const int operands = *command.operand == '\0' || line.IsSet("codes") ? 0 : 1;
+    if (line.positionalArguments().size() != operands + 1 || line.positionalArguments().last().isEmpty()) {
         return Error(std::string(operands == 0 ? "no operand" : "exactly one operand") + " is wanted (see --help)");
     }
     for (const QString& name : Words(command.required)) {
-        if (!name.isEmpty() && parser.value(name).isEmpty()) {
+        if (!name.isEmpty() && line.value(name).isEmpty()) {
             return Error("--" + name.toStdString() + " is missing (see --help)");
         }
     }
-    return {};
+    Error error = line.Limit() > 0 ? Error() : Error("--max-unpacked: a number of bytes is wanted");
+    for (const QString& accepted : line.values(QStringLiteral("accept"))) {
+        error = error ? error : findings.Accept(accepted.toStdString());
+    }
+    return error;
 }
 
 int Run(const QStringList& arguments) {
-    QCommandLineParser parser;
-    Fill(parser, nullptr);
-    const bool isParsed = parser.parse(arguments);
-    const QString name = parser.positionalArguments().value(0);
+    CommandLine line;
+    Fill(line, nullptr);
+    const bool isParsed = line.parse(arguments);
+    const QString name = line.positionalArguments().value(0);
     const auto* command = std::find_if(std::begin(kCommands), std::end(kCommands),
                                        [&name](const Command& known) { return name == QLatin1String(known.name); });
     const bool isKnown = command != std::end(kCommands);
-    if (parser.isSet(QStringLiteral("version"))) {
+    if (line.IsSet("version")) {
         PrintLine("quay-package " KQ_VERSION);
         return kExitGood;
     }
-    if (parser.isSet(QStringLiteral("help")) || name == QLatin1String("help")) {
+    if (line.IsSet("help") || name == QLatin1String("help")) {
         PrintLine(isKnown ? Help(*command) : Usage());
         return kExitGood;
     }
-    Report report(isKnown ? command->name : "", isKnown ? Words(command->keys) : QStringList());
-    report.SetJson(arguments.contains(QStringLiteral("--json")));
-    Error error = !isParsed  ? Error(parser.errorText().toStdString() + " (see --help)")
+    Report report(isKnown ? command->name : "", isKnown ? Words(command->keys) : QStringList(),
+                  arguments.contains(QStringLiteral("--json")));
+    Error error = !isParsed  ? Error(line.errorText().toStdString() + " (see --help)")
                   : !isKnown ? Error("no such command (see --help)")
-                             : CheckUsage(parser, *command);
-    return report.Finish(error ? error : command->run(CommandLine(parser), report));
+                             : CheckUsage(line, *command, report.findings);
+    return report.Finish(error ? error : command->run(line, report));
 }
 
 }  // namespace
@@ -162,16 +165,9 @@ std::string CommandLine::Home() const {
     return IsSet("home") ? Path("home") : AbsolutePath(Service::GetUserInstallPath());
 }
 
-Error CommandLine::Take(Findings& findings, std::int64_t& limit) const {
-    for (const QString& accepted : parser_.values(QStringLiteral("accept"))) {
-        if (Error error = findings.Accept(accepted.toStdString())) {
-            return error;
-        }
-    }
-    bool isNumber = true;
-    limit =
-        IsSet("max-unpacked") ? parser_.value(QStringLiteral("max-unpacked")).toLongLong(&isNumber) : kLargestPackage;
-    return isNumber && limit > 0 ? Error() : Error("--max-unpacked: a number of bytes is wanted");
+std::int64_t CommandLine::Limit() const {
+    const QString limit = value(QStringLiteral("max-unpacked"));
+    return IsSet("max-unpacked") ? std::min<std::int64_t>(limit.toLongLong(), kLargestPackage) : kLargestPackage;
 }
 
 int main(int argc, char** argv) {

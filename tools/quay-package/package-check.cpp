@@ -4,12 +4,11 @@
 
 #include <algorithm>
 #include <set>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "files.h"
 #include "posix/archive.h"
 #include "progress.h"
-#include "rules.h"
 #include "text.h"
 #include "zip.h"
 
@@ -43,7 +42,7 @@ Error ReadEntryData(const ArchiveReader& reader, const Entry& entry, const std::
         }
         seen += static_cast<std::int64_t>(size);
         if (result != ARCHIVE_OK || seen > entry.size) {
-            findings.Add(defects::Damaged, entry.path,
+            findings.Add(Defect::Damaged, entry.path,
                          result < ARCHIVE_OK ? Text(archive_error_string(reader.get())) : "its size is another");
             return {};
         }
@@ -63,13 +62,13 @@ Error ReadData(const Package& package, const char* label, const TakeBlock& take,
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
     if (archive_read_open_filename(reader.get(), package.file.c_str(), kReaderBlock) != ARCHIVE_OK) {
-        findings.Add(defects::Damaged, "", Text(archive_error_string(reader.get())));
+        findings.Add(Defect::Damaged, "", Text(archive_error_string(reader.get())));
     }
     archive_entry* header = nullptr;
     for (std::size_t at = 0; at < package.entries.size() && findings.Total() == before; ++at) {
         const Entry& entry = package.entries[at];
         if (archive_read_next_header(reader.get(), &header) != ARCHIVE_OK || !IsSame(entry, header)) {
-            findings.Add(defects::OddForm, entry.path, "the launcher's reader sees something else in it");
+            findings.Add(Defect::OddForm, entry.path, "the launcher's reader sees something else in it");
             return {};
         }
         const auto advance = [&](std::string_view block) {
@@ -82,7 +81,7 @@ Error ReadData(const Package& package, const char* label, const TakeBlock& take,
         }
     }
     if (findings.Total() == before && archive_read_next_header(reader.get(), &header) != ARCHIVE_EOF) {
-        findings.Add(defects::OddForm, "", "the launcher's reader sees more entries in it");
+        findings.Add(Defect::OddForm, "", "the launcher's reader sees more entries in it");
     }
     return {};
 }
@@ -101,18 +100,16 @@ Error CheckPackage(const std::string& file, std::int64_t limit, Package& package
     package.file = file;
     QFile archive;
     const std::size_t before = findings.Total();
-    const auto goesOn = [&](const Error& error) { return !error && findings.Total() == before; };
     Error error = OpenFile(file, true, archive);
-    if (goesOn(error)) {
-        error = ReadDirectory(archive, package.entries, findings);
-    }
+    error = error ? error : ReadDirectory(archive, package.entries, findings);
+    const auto goesOn = [&] { return !error && findings.Total() == before; };
     for (const Entry& entry : package.entries) {
         package.bytes += entry.size;
     }
-    if (goesOn(error)) {
+    if (goesOn()) {
         CheckTree(package.entries, limit, findings);
     }
-    if (goesOn(error)) {
+    if (goesOn()) {
         const auto take = [&package](std::size_t at, std::string_view block) {
             Entry& entry = package.entries[at];
             const std::size_t wanted = WantedContent(entry.path);
@@ -121,20 +118,27 @@ Error CheckPackage(const std::string& file, std::int64_t limit, Package& package
         };
         error = ReadData(package, "reading", take, findings);
     }
-    return goesOn(error) ? CheckContents(package.entries, findings, package.versions, package.client) : error;
+    return goesOn() ? CheckContents(package, findings) : error;
 }
 
 Error Compare(const Package& package, const std::string& folder, const Differences& differences, Findings& findings) {
-    std::unordered_set<std::string_view> known;
+    std::vector<Entry> tree;
+    if (Error error = ScanTree(folder, {}, tree)) {
+        return error;
+    }
+    std::unordered_map<std::string_view, const Entry*> added;
     std::set<std::string_view> absent;  // or not to be compared any further
+    for (const Entry& there : tree) {
+        added[there.path] = &there;
+    }
     for (const Entry& entry : package.entries) {
-        Entry there;
-        known.insert(entry.path);
-        if (absent.count(ParentOf(entry.path)) != 0 || !Look(folder, entry.path, there)) {
+        const auto found = added.find(entry.path);
+        if (found == added.end()) {
             absent.insert(entry.path);
             findings.Add(differences.missing, entry.path);
             continue;
         }
+        const Entry& there = *found->second;
         const std::string difference = Difference(entry, there);
         if (!difference.empty()) {
             absent.insert(entry.path);
@@ -143,11 +147,10 @@ Error Compare(const Package& package, const std::string& folder, const Differenc
                    ((there.mode & ~entry.mode) != 0 || ((there.mode ^ entry.mode) & 0700) != 0)) {
             findings.Add(differences.mode, entry.path, Octal(there.mode) + ", not " + Octal(entry.mode));
         }
+        added.erase(found);
     }
-    std::vector<Entry> tree;
-    Error error = ScanTree(folder, {}, tree);
     for (const Entry& there : tree) {
-        if (known.count(there.path) == 0) {
+        if (added.count(there.path) != 0) {
             findings.Add(differences.added, there.path);
         }
     }
@@ -169,6 +172,6 @@ Error Compare(const Package& package, const std::string& folder, const Differenc
         return Error();
     };
     Findings damage;
-    error = error ? error : ReadData(package, "comparing", take, damage);
+    Error error = ReadData(package, "comparing", take, damage);
     return error || damage.IsEmpty() ? error : Error(package.file + ": changed while it was compared");
 }

@@ -30,7 +30,6 @@ bool IsInterrupted() {
 }
 
 void EndInterrupted() {
-    std::signal(taken, SIG_DFL);
     raise(taken);
     _exit(2);
 }

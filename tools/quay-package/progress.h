@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "error.h"
+#include "finding.h"
 
 // From here on the first SIGINT, SIGTERM or SIGHUP only sets a mark, so that nothing half-made is left behind; a second
 // one ends the process. Main thread, once.

@@ -1,4 +1,4 @@
-#include "report.h"
+#include "commands.h"
 
 #include <QJsonDocument>
 #include <cstdio>
@@ -12,17 +12,17 @@ constexpr int kSchema = 1;
 
 // `front` says what became of the findings; where nothing did, it is said how to mend them.
 void PrintGroups(const std::string& front, const Findings::Groups& groups) {
-    for (const auto& [code, group] : groups) {
-        const Defect& defect = *group.defect;
+    for (const auto& [defect, group] : groups) {
+        const DefectTexts& texts = AllDefects().at(defect);
         for (const Finding& finding : group.kept) {
             PrintLine(front + IdOf(defect) + "  " + (finding.entry.empty() ? "" : Printable(finding.entry) + ": ") +
-                      defect.what + (finding.detail.empty() ? "" : " (" + Printable(finding.detail) + ")"));
+                      texts.what + (finding.detail.empty() ? "" : " (" + Printable(finding.detail) + ")"));
         }
         if (group.total > group.kept.size()) {
             PrintLine("       and " + std::to_string(group.total - group.kept.size()) + " more of them");
         }
         if (front.empty()) {
-            PrintLine(std::string("       why:  ") + defect.why + "\n       mend: " + defect.mend);
+            PrintLine("       why:  " + texts.why + "\n       mend: " + texts.mend);
         }
     }
 }
@@ -34,7 +34,7 @@ void PrintLine(const std::string& text) {
     std::fputc('\n', stdout);
 }
 
-Report::Report(const char* command, const QStringList& keys) : command_(command) {
+Report::Report(const char* command, const QStringList& keys, bool isJson) : command_(command), isJson_(isJson) {
     for (const QString& key : keys) {
         object_.insert(key, QJsonValue());
     }
@@ -79,18 +79,19 @@ int Report::Finish(const Error& error) {
     return exitCode;
 }
 
-QJsonObject ToJson(const Defect& defect) {
+QJsonObject ToJson(Defect defect) {
+    const DefectTexts& texts = AllDefects().at(defect);
     return {{QStringLiteral("code"), Q(IdOf(defect))},
-            {QStringLiteral("what"), QString::fromUtf8(defect.what)},
-            {QStringLiteral("why"), QString::fromUtf8(defect.why)},
-            {QStringLiteral("mend"), QString::fromUtf8(defect.mend)}};
+            {QStringLiteral("what"), QString::fromStdString(texts.what)},
+            {QStringLiteral("why"), QString::fromStdString(texts.why)},
+            {QStringLiteral("mend"), QString::fromStdString(texts.mend)}};
 }
 
 QJsonArray ToJson(const Findings::Groups& groups) {
     QJsonArray array;
-    for (const auto& [code, group] : groups) {
+    for (const auto& [defect, group] : groups) {
         for (const Finding& finding : group.kept) {
-            QJsonObject object = ToJson(*group.defect);
+            QJsonObject object = ToJson(defect);
             object.insert(QStringLiteral("entry"), Q(finding.entry));
             object.insert(QStringLiteral("detail"), Q(finding.detail));
             array.append(object);

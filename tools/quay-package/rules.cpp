@@ -1,11 +1,10 @@
-#include "rules.h"
+#include "checks.h"
 
 #include <QRegularExpression>
 #include <algorithm>
 #include <string_view>
 #include <unordered_map>
 
-#include "content.h"
 #include "product-layout.h"
 #include "text.h"
 
@@ -35,25 +34,25 @@ void CheckName(const std::string& path, Findings& findings) {
     }
     const struct {
         bool isBroken;
-        const Defect& defect;
+        Defect defect;
     } rules[] = {
-        {!isUtf8, defects::NameNotUtf8},
-        {isUtf8 && Composed(path) != path, defects::NameNotComposed},
-        {isAbsolute, defects::NameAbsolute},
-        {has("/../", 0), defects::NameDotDot},
-        {has("/./", 0) || has("//", isAbsolute ? 2 : 0), defects::NameOddElement},
-        {path.size() > kLongestPath || longest > kLongestName, defects::NameTooLong},
-        {HasControl(path), defects::NameControl},
-        {has("\\", 0), defects::NameBackslash},
+        {!isUtf8, Defect::NameNotUtf8},
+        {isUtf8 && Composed(path) != path, Defect::NameNotComposed},
+        {isAbsolute, Defect::NameAbsolute},
+        {has("/../", 0), Defect::NameDotDot},
+        {has("/./", 0) || has("//", isAbsolute ? 2 : 0), Defect::NameOddElement},
+        {path.size() > kLongestPath || longest > kLongestName, Defect::NameTooLong},
+        {HasControl(path), Defect::NameControl},
+        {has("\\", 0), Defect::NameBackslash},
         {!isAbsolute && framed.find("/"s + kContentsFolder + "/") != 0 && !has("/./", 0) && !has("/__MACOSX/", 0),
-         defects::NameOutsideContents},
+         Defect::NameOutsideContents},
     };
     for (const auto& rule : rules) {
         if (rule.isBroken) {
             findings.Add(rule.defect, path);
         }
     }
-    if (const Defect* leftover = LeftoverKind(path)) {
+    if (const std::optional<Defect> leftover = LeftoverKind(path)) {
         findings.Add(*leftover, path);
     }
 }
@@ -63,12 +62,12 @@ void CheckKindAndMode(const Entry& entry, Findings& findings) {
     const bool isFolder = entry.kind == Kind::Folder;
     const unsigned needed = isFolder ? S_IRWXU : S_IRUSR;
     if (entry.kind == Kind::Other) {
-        findings.Add(defects::SpecialFile, entry.path);
+        findings.Add(Defect::SpecialFile, entry.path);
     } else if (isLink ? entry.mode != 0777 : entry.mode != 0755 && (entry.mode != 0644 || isFolder)) {
-        findings.Add((entry.mode & 07000) != 0                ? defects::SetIdBit
-                     : (entry.mode & needed) != needed        ? defects::UnreadableMode
-                     : (entry.mode & S_IWOTH) != 0 && !isLink ? defects::WorldWritable
-                                                              : defects::OddMode,
+        findings.Add((entry.mode & 07000) != 0                ? Defect::SetIdBit
+                     : (entry.mode & needed) != needed        ? Defect::UnreadableMode
+                     : (entry.mode & S_IWOTH) != 0 && !isLink ? Defect::WorldWritable
+                                                              : Defect::OddMode,
                      entry.path, Octal(entry.mode));
     }
 }
@@ -83,104 +82,93 @@ void CheckParent(const Entry& entry, const Paths& paths, Findings& findings) {
     }
     const auto found = paths.find(parent);
     if (found == paths.end()) {
-        findings.Add(defects::FolderMissing, entry.path);
+        findings.Add(Defect::FolderMissing, entry.path);
     } else if (found->second->kind != Kind::Folder) {
-        findings.Add(found->second->kind == Kind::Link ? defects::BehindLink : defects::ParentIsNoFolder, entry.path);
+        findings.Add(found->second->kind == Kind::Link ? Defect::BehindLink : Defect::ParentIsNoFolder, entry.path);
     }
 }
 
-// Follows a link one element at a time, links on the way included. Null, or what is wrong with it.
-const Defect* FollowLink(const Entry& link, const Paths& paths) {
+// Follows a link one element at a time, links on the way included. Tells what is wrong with it.
+std::optional<Defect> FollowLink(const Entry& link, const Paths& paths) {
     if (link.target.empty() || link.target.size() > kLongestTarget || !IsUtf8(link.target) ||
         Composed(link.target) != link.target || HasControl(link.target)) {
-        return &defects::LinkTargetOdd;
+        return Defect::LinkTargetOdd;
     }
     if (link.target[0] == '/') {
-        return &defects::LinkAbsolute;
+        return Defect::LinkAbsolute;
     }
     std::string here = ParentOf(link.path);
-    std::string rest = link.target;
+    std::string rest = link.target + "/";
     for (int links = 1; !rest.empty();) {
-        const std::size_t slash = rest.find('/');
-        const std::string element = rest.substr(0, slash);
-        const bool isLast = slash == std::string::npos;
-        rest = isLast ? "" : rest.substr(slash + 1);
-        if (element.empty() || element == ".") {
+        const std::string element = rest.substr(0, rest.find('/'));
+        rest.erase(0, element.size() + 1);
+        if (element == ".." && here.empty()) {
+            return Defect::LinkLeaves;
+        }
+        if (element.empty() || element == "." || element == "..") {
+            here = element == ".." ? ParentOf(here) : here;
             continue;
         }
-        if (element == "..") {
-            if (here.empty()) {
-                return &defects::LinkLeaves;
-            }
-            here = ParentOf(here);
-            continue;
-        }
-        std::string path = here;
-        path.append(here.empty() ? "" : "/").append(element);
+        const std::string path = here.empty() ? element : here + "/" + element;
         const auto found = paths.find(path);
-        if (found == paths.end() || (!isLast && found->second->kind == Kind::File)) {
-            return &defects::LinkDangling;
+        if (found == paths.end() || (!rest.empty() && found->second->kind == Kind::File)) {
+            return Defect::LinkDangling;
         }
         const Entry& next = *found->second;
-        if (next.kind == Kind::Link) {
-            if (++links > kMostLinks || next.target.empty() || next.target.size() > kLongestTarget) {
-                return &defects::LinkLoop;
-            }
-            if (next.target[0] == '/') {
-                return &defects::LinkLeaves;
-            }
-            rest.insert(0, isLast ? "" : "/").insert(0, next.target);
-        } else {
+        if (next.kind != Kind::Link) {
             here = path;
+        } else if (++links > kMostLinks || next.target.empty() || next.target.size() > kLongestTarget) {
+            return Defect::LinkLoop;
+        } else if (next.target[0] == '/') {
+            return Defect::LinkLeaves;
+        } else {
+            rest.insert(0, next.target + "/");
         }
     }
-    return nullptr;
+    return {};
 }
 
 // The client's two last entries say that it is complete: a start that is killed before sees it as unfinished.
 void CheckRequired(const std::vector<Entry>& entries, Findings& findings) {
-    const auto find = [&entries](const char* path) {
-        return std::find_if(entries.begin(), entries.end(), [path](const Entry& entry) { return entry.path == path; });
-    };
     const auto behind = [&entries](auto at) {
         return std::to_string(entries.end() - at - 1) + " entries come behind it";
     };
-    const auto binary = find(kClientFile);
-    const auto info = find(kInfoFile);
+    const auto binary = FindEntry(entries, kClientFile);
+    const auto info = FindEntry(entries, kInfoFile);
     if (info == entries.end() || info->kind != Kind::File) {
-        findings.Add(defects::InfoMissing, kInfoFile, info == entries.end() ? "" : "what stands there is no file");
+        findings.Add(Defect::InfoMissing, kInfoFile, info == entries.end() ? "" : "what stands there is no file");
     } else if (info + 1 != entries.end()) {
-        findings.Add(defects::InfoNotLast, kInfoFile, behind(info));
+        findings.Add(Defect::InfoNotLast, kInfoFile, behind(info));
     } else if (info->size > static_cast<std::int64_t>(kLargestInfo)) {
-        findings.Add(defects::InfoTooLarge, kInfoFile, SizeText(info->size));
+        findings.Add(Defect::InfoTooLarge, kInfoFile, SizeText(info->size));
     }
     if (binary == entries.end()) {
-        findings.Add(defects::BinaryMissing, kClientFile);
+        findings.Add(Defect::BinaryMissing, kClientFile);
         return;
     }
     const auto last = info != entries.end() && binary < info ? 2 : 1;
     if (entries.end() - binary > last) {
-        findings.Add(defects::BinaryNotSecondToLast, kClientFile, behind(binary));
+        findings.Add(Defect::BinaryNotSecondToLast, kClientFile, behind(binary));
     }
     if (binary->kind != Kind::File) {
-        findings.Add(defects::BinaryNoProgram, kClientFile, "what stands there is no file");
+        findings.Add(Defect::BinaryNoProgram, kClientFile, "what stands there is no file");
     } else if ((binary->mode & S_IXUSR) == 0) {
-        findings.Add(defects::BinaryNotExecutable, kClientFile);
+        findings.Add(Defect::BinaryNotExecutable, kClientFile);
     }
 }
 
 }  // namespace
 
-const Defect* LeftoverKind(const std::string& path) {
-    static const QRegularExpression appleDouble(QStringLiteral("(^|/)\\._[^/]|^__MACOSX(/|$)"));
-    static const QRegularExpression litter(
-        QStringLiteral("/(\\.DS_Store|\\.Spotlight-V100|\\.Trashes|\\.fseventsd|\\.directory|Thumbs\\.db|desktop\\.ini|"
-                       "\\.git|\\.gitignore|"
-                       "\\.gitattributes|\\.gitmodules|\\.svn|\\.hg|[^/]+(~|\\.swp|\\.orig|\\.rej))$"));
-    const QString text = QString::fromStdString(path);
-    return appleDouble.match(text).hasMatch()                 ? &defects::NameAppleDouble
-           : litter.match(QLatin1Char('/') + text).hasMatch() ? &defects::NameLitter
-                                                              : nullptr;
+std::optional<Defect> LeftoverKind(const std::string& path) {
+    static const QRegularExpression leftover(
+        QStringLiteral("/\\._[^/]|^/__MACOSX(/|$)|"
+                       "(?<litter>/(\\.DS_Store|\\.Spotlight-V100|\\.Trashes|\\.fseventsd|\\.directory|Thumbs\\.db|"
+                       "desktop\\.ini|\\.git|\\.gitignore|\\.gitattributes|\\.gitmodules|\\.svn|\\.hg|"
+                       "[^/]+(~|\\.swp|\\.orig|\\.rej))$)"));
+    const QRegularExpressionMatch match = leftover.match(QString::fromStdString("/" + path));
+    const Defect kind =
+        match.capturedLength(QStringLiteral("litter")) > 0 ? Defect::NameLitter : Defect::NameAppleDouble;
+    return match.hasMatch() ? std::optional(kind) : std::nullopt;
 }
 
 std::size_t WantedContent(const std::string& path) {
@@ -188,6 +176,14 @@ std::size_t WantedContent(const std::string& path) {
            : path == kPropertyListFile         ? kLargestText
            : ParentOf(path) == kBinariesFolder ? kProgramFront
                                                : 0;
+}
+
+bool CheckCount(std::size_t count, Findings& findings) {
+    if (count > kMostEntries) {
+        findings.Add(Defect::TooLarge, "",
+                     std::to_string(count) + " entries, the limit is " + std::to_string(kMostEntries));
+    }
+    return count <= kMostEntries;
 }
 
 void CheckTree(const std::vector<Entry>& entries, std::int64_t limit, Findings& findings) {
@@ -200,71 +196,65 @@ void CheckTree(const std::vector<Entry>& entries, std::int64_t limit, Findings& 
         CheckParent(entry, paths, findings);
         bytes += entry.size;
         if (!paths.emplace(entry.path, &entry).second) {
-            findings.Add(defects::NameTwice, entry.path);
+            findings.Add(Defect::NameTwice, entry.path);
             continue;
         }
         // By the exact name of the folder: below two folders that fall together everything does, which is said once.
-        const auto [other, isNew] = folded.emplace(ParentOf(entry.path) + "/" + FoldedName(NameOf(entry.path)), &entry);
+        const auto [other, isNew] =
+            folded.emplace(ParentOf(entry.path) + "/" + FoldedName(LastName(entry.path.c_str())), &entry);
         if (!isNew && IsUtf8(entry.path)) {
             const bool isForm = Composed(entry.path) == Composed(other->second->path);
-            findings.Add(isForm ? defects::NameForm : defects::NameCase, entry.path,
+            findings.Add(isForm ? Defect::NameForm : Defect::NameCase, entry.path,
                          "the other is \"" + other->second->path + "\"");
         }
     }
     for (const Entry& entry : entries) {
-        const Defect* wrong =
-            entry.kind == Kind::Link && entry.path != kClientFile ? FollowLink(entry, paths) : nullptr;
-        if (wrong != nullptr) {
+        const bool isFollowed = entry.kind == Kind::Link && entry.path != kClientFile;
+        if (const std::optional<Defect> wrong = isFollowed ? FollowLink(entry, paths) : std::nullopt) {
             findings.Add(*wrong, entry.path, "it leads to \"" + entry.target + "\"");
         }
     }
-    if (bytes > limit || entries.size() > kMostEntries) {
-        findings.Add(
-            defects::TooLarge, "",
-            SizeText(bytes) + " in " + std::to_string(entries.size()) + " entries, the limit is " + SizeText(limit));
+    if (bytes > limit) {
+        findings.Add(Defect::TooLarge, "", SizeText(bytes) + ", the limit is " + SizeText(limit));
     }
+    CheckCount(entries.size(), findings);
     if (entries.empty()) {
-        findings.Add(defects::NoEntries, "");
+        findings.Add(Defect::NoEntries, "");
     } else {
         CheckRequired(entries, findings);
     }
 }
 
-Error CheckContents(const std::vector<Entry>& entries, Findings& findings, VersionInfo& versions, Program& client) {
-    const std::string* list = nullptr;
-    client = Program::None;
-    for (const Entry& entry : entries) {
-        if (entry.path == kClientFile) {
-            client = Recognise(entry.content, entry.size);
-        } else if (ParentOf(entry.path) == kBinariesFolder && (entry.mode & S_IXUSR) == 0 &&
-                   BeginsAsProgram(entry.content)) {
-            findings.Add(defects::ProgramWithoutExecuteBit, entry.path);
-        } else if (entry.path == kPropertyListFile) {
-            list = &entry.content;
-        } else if (entry.path == kInfoFile) {
-            if (Error error = ReadVersions(entry.content, versions)) {
-                return error;
-            }
+Error CheckContents(Package& package, Findings& findings) {
+    const Entry& binary = package.entries[package.entries.size() - 2];
+    if (Error error = ReadVersions(package.entries.back().content, package.versions)) {
+        return error;
+    }
+    const std::string build = package.versions.buildVersion.value_or("");
+    package.client = Recognise(binary.content, binary.size);
+    for (const Entry& entry : package.entries) {
+        if (ParentOf(entry.path) == kBinariesFolder && (entry.mode & S_IXUSR) == 0 &&
+            Recognise(entry.content, entry.size) != Program::None) {
+            findings.Add(Defect::ProgramWithoutExecuteBit, entry.path);
         }
     }
-    const std::string build = versions.buildVersion.value_or("");
-    if (client == Program::None) {
-        findings.Add(defects::BinaryNoProgram, kClientFile);
+    if (package.client <= Program::Broken) {
+        findings.Add(Defect::BinaryNoProgram, kClientFile);
     }
     if (!IsBuildNumber(build)) {
-        findings.Add(build.empty() ? defects::InfoNoBuild : defects::InfoBuildNoNumber, kInfoFile, "\"" + build + "\"");
+        findings.Add(build.empty() ? Defect::InfoNoBuild : Defect::InfoBuildNoNumber, kInfoFile, "\"" + build + "\"");
     }
     for (const VersionKey& key : kVersionKeys) {
-        if ((versions.*key.field).value_or("").empty() && key.field != &VersionInfo::buildVersion) {
-            findings.Add(defects::InfoIncomplete, kInfoFile, key.name);
+        if ((package.versions.*key.field).value_or("").empty() && key.field != &VersionInfo::buildVersion) {
+            findings.Add(Defect::InfoIncomplete, kInfoFile, key.name);
         }
     }
-    std::string program;
-    if (list == nullptr && client == Program::MachO) {
-        findings.Add(defects::PropertyListMissing, kPropertyListFile);
-    } else if (list != nullptr &&
-               (!PropertyListValue(*list, "CFBundleExecutable", program) || program != LastName(kClientFile))) {
-        findings.Add(defects::PropertyListWrong, kPropertyListFile, "it names \"" + program + "\"");
+    const auto list = FindEntry(package.entries, kPropertyListFile);
+    const std::string program = list == package.entries.end() ? "" : ExecutableOf(list->content);
+    if (list == package.entries.end() && package.client == Program::MachO) {
+        findings.Add(Defect::PropertyListMissing, kPropertyListFile);
+    } else if (list != package.entries.end() && program != LastName(kClientFile)) {
+        findings.Add(Defect::PropertyListWrong, kPropertyListFile, "it names \"" + program + "\"");
     }
     return {};
 }

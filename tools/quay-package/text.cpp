@@ -3,6 +3,7 @@
 #include <unicode/unistr.h>
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <algorithm>
 
 std::string Printable(const std::string& bytes) {
@@ -50,6 +51,10 @@ bool HasControl(const std::string& bytes) {
                        [](char byte) { return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7f; });
 }
 
+bool Matches(const QString& text, const QString& pattern) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
+}
+
 std::string Composed(const std::string& utf8) {
     return IsAscii(utf8) ? utf8 : QString::fromStdString(utf8).normalized(QString::NormalizationForm_C).toStdString();
 }
@@ -62,10 +67,6 @@ std::string FoldedName(const std::string& utf8) {
     std::string folded;
     icu::UnicodeString::fromUTF8(decomposed(utf8)).foldCase().toUTF8String(folded);
     return decomposed(folded);
-}
-
-std::string NameOf(const std::string& path) {
-    return path.substr(path.rfind('/') + 1);  // npos + 1 is 0
 }
 
 std::string ParentOf(const std::string& path) {

@@ -16,6 +16,7 @@ std::string Octal(unsigned mode);          // "0755"
 bool IsUtf8(const std::string& bytes);
 bool IsAscii(const std::string& bytes);
 bool HasControl(const std::string& bytes);
+bool Matches(const QString& text, const QString& pattern);  // as a whole
 
 // In composed form (NFC); `utf8` must be UTF-8.
 std::string Composed(const std::string& utf8);
@@ -24,6 +25,5 @@ std::string Composed(const std::string& utf8);
 // decomposed. Source: ICU.
 std::string FoldedName(const std::string& utf8);
 
-// The part of a path behind its last "/", and the part before it; empty where there is none.
-std::string NameOf(const std::string& path);
+// The part of a path before its last "/"; empty where there is none.
 std::string ParentOf(const std::string& path);

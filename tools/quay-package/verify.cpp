@@ -1,4 +1,3 @@
-#include "checks.h"
 #include "commands.h"
 #include "files.h"
 #include "product-layout.h"
@@ -7,27 +6,23 @@
 Error RunVerify(const CommandLine& line, Report& report) {
     const std::string home = line.Home();
     const std::string folder = home + "/" + kPrivateFolder + "/" + kApplicationFolder;
-    std::int64_t limit = 0;
     Package package;
-    Entry there;
-    Error error = line.Take(report.findings, limit);
-    error = error ? error : CheckPackage(line.Operand() + "/" + kPackageFile, limit, package, report.findings);
+    Error error = CheckPackage(line.Operand() + "/" + kPackageFile, line.Limit(), package, report.findings);
     report.Set("operand", line.Operand());
     report.Set("home", home);
     report.Set("folder", folder);
     report.Set(package);
     if (!error && report.findings.IsEmpty()) {
-        if (!Look(folder, "", there) || there.kind != Kind::Folder) {
-            report.findings.Add(defects::CopyMissing, folder);
+        if (KindAt(folder) != Kind::Folder) {
+            report.findings.Add(Defect::CopyMissing, folder);
         } else {
             error = Compare(package, folder,
-                            {defects::CopyMissing, defects::CopyDiffers, defects::CopyAdded, defects::CopyMode},
+                            {Defect::CopyMissing, Defect::CopyDiffers, Defect::CopyAdded, Defect::CopyMode},
                             report.findings);
         }
     }
-    const std::size_t total = report.findings.Total();
-    report.Sum(Printable(folder) + ": " +
-               (total == 0 ? "is what the package holds" : std::to_string(total) + " differences") + ", " +
-               Shown(package.versions));
+    const std::string differences = std::to_string(report.findings.Total()) + " differences";
+    report.Sum(Printable(folder) + ": " + (report.findings.IsEmpty() ? "is what the package holds" : differences) +
+               ", " + Shown(package.versions));
     return error;
 }

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "checks.h"
 #include "files.h"
 #include "progress.h"
-#include "rules.h"
 #include "text.h"
 
 namespace {
@@ -121,15 +121,133 @@ public:
     DirectoryReader(QFile& file, std::vector<Entry>& entries, Findings& findings)
         : file_(file), entries_(entries), findings_(findings) {}
 
-    Error Run();
+    Error Run() {
+        if (!ReadEnd()) {
+            return {};
+        }
+        entries_.reserve(std::min(count_, static_cast<std::uint64_t>(end_ - at_) / sizeof(DirectoryHeader)));
+        Progress progress("looking", static_cast<std::int64_t>(count_));
+        for (std::uint64_t left = count_; left > 0; --left) {
+            if (Error error = progress.Advance(1); error || !ReadEntry()) {
+                return error;
+            }
+        }
+        if (at_ != end_ || next_ != directory_) {
+            findings_.Add(Defect::Damaged, "", "something stands between its entries, its directory and its end");
+        }
+        return {};
+    }
 
 private:
-    bool ReadEnd();
-    bool ReadEntry();
-    bool CheckForm(const Entry& entry, const DirectoryHeader& header);
-    bool CompareFront(const Entry& entry, const DirectoryHeader& header);
-    bool ReadTarget(Entry& entry);
-    bool Refuse(const Defect& defect, const std::string& name, const std::string& detail) {
+    // The end tells where the directory is; it must tell that it fills the file up to itself.
+    bool ReadEnd() {
+        std::uint32_t begin = 0;
+        End end;
+        LargeEnd large;
+        if (!Take(file_, 0, begin) || (begin != LocalHeader().signature && begin != End().signature)) {
+            return Refuse(Defect::NoZip, "", "");
+        }
+        if (!Take(file_, file_.size() - qint64{sizeof(end)}, end) || end.signature != End().signature) {
+            return Refuse(Defect::Damaged, "",
+                          "it does not end with its directory: it is cut short, or something follows");
+        }
+        const bool isLarge = end.counts[1] == kManyEntries;
+        if (isLarge) {
+            Take(file_, file_.size() - qint64{sizeof(large) + sizeof(end)}, large);
+        }
+        count_ = isLarge ? large.counts[1] : end.counts[1];
+        at_ = directory_ = end.offset;
+        end_ = directory_ + end.size;
+        const std::string expected = EndOf(count_, end.offset, end.size, large.versions);
+        if (end_ + static_cast<qint64>(expected.size()) != file_.size() ||
+            TakeText(file_, end_, static_cast<qint64>(expected.size())) != expected) {
+            return Refuse(Defect::Damaged, "", "the end of its directory is wrong, or is one that pack does not write");
+        }
+        return CheckCount(count_, findings_);
+    }
+
+    bool ReadEntry() {
+        DirectoryHeader header;
+        const bool isThere = Take(file_, at_, header) && header.signature == DirectoryHeader().signature;
+        at_ += qint64{sizeof(header)};
+        const std::string rest = isThere ? TakeText(file_, at_, header.form.name + header.form.extra) : std::string();
+        at_ += header.form.name + header.form.extra;
+        if (!isThere || at_ > end_) {
+            return Refuse(Defect::Damaged, "",
+                          "its directory breaks off behind " + std::to_string(entries_.size()) + " entries");
+        }
+        Entry entry;
+        entry.path = rest.substr(0, header.form.name);
+        entry.size = header.form.size;
+        entry.form = header.form;
+        const bool endsInSlash = !entry.path.empty() && entry.path.back() == '/';
+        const auto mode = static_cast<unsigned>(header.attributes >> 16);
+        // A packer that tells no type means a file, or a folder where the name says so.
+        entry.kind = (mode & S_IFMT) != 0 ? KindOf(mode) : endsInSlash ? Kind::Folder : Kind::File;
+        entry.mode = mode & 07777;
+        if (endsInSlash) {
+            entry.path.pop_back();
+        }
+        const bool isGood = CheckForm(entry, header) && CompareFront(entry, header, rest.substr(header.form.name)) &&
+                            (entry.kind != Kind::Link || ReadTarget(entry));
+        if (isGood) {
+            entries_.push_back(std::move(entry));
+        }
+        return isGood;
+    }
+
+    // What an entry of the directory says of itself.
+    bool CheckForm(const Entry& entry, const DirectoryHeader& header) {
+        const ZipForm& form = entry.form;
+        const bool isFolder = entry.kind == Kind::Folder;
+        const unsigned copy = header.attributes >> 8 & 0xff;
+        const bool isPlain =
+            header.maker >> 8 == kUnix && form.needed <= ZipForm().needed && header.comment == 0 && header.disk == 0 &&
+            (form.flags & ~(kLevelBits | kUtf8)) == 0 && (IsAscii(entry.path) || (form.flags & kUtf8) != 0) &&
+            (form.method == 0 ? form.packed == form.size : form.method == kDeflated && entry.kind == Kind::File) &&
+            std::max({std::uint32_t{form.packed}, std::uint32_t{form.size}, std::uint32_t{header.offset}}) <
+                kLargestPackage;
+        // A folder is one by its name as well, and has no data; a mode is like its copy.
+        const bool isConsistent = isFolder == (form.name > entry.path.size()) && (!isFolder || form.size == 0) &&
+                                  (copy == 0 || copy == kNoCopy || copy == (entry.mode & 0xff)) &&
+                                  entry.path.find('\0') == std::string::npos;
+        if ((form.flags & kEncrypted) != 0 || entry.kind == Kind::Other) {
+            return Refuse(entry.kind == Kind::Other ? Defect::SpecialFile : Defect::Encrypted, entry.path, "");
+        }
+        return (isPlain && isConsistent) ||
+               Refuse(Defect::OddForm, entry.path,
+                      "flags " + std::to_string(form.flags) + ", method " + std::to_string(form.method) +
+                          ", attributes 0" + Octal(header.attributes >> 16));
+    }
+
+    // The local header, which must stand where the entry before has ended, and say what the directory says.
+    // `extra` are the directory's further fields.
+    bool CompareFront(const Entry& entry, const DirectoryHeader& header, const std::string& extra) {
+        LocalHeader local;
+        const bool isThere = header.offset == next_ && Take(file_, next_, local);
+        LocalHeader expected;
+        expected.form = entry.form;
+        expected.form.extra = local.form.extra;
+        const std::string rest = TakeText(file_, next_ + qint64{sizeof(local)}, entry.form.name + local.form.extra);
+        if (!isThere || Bytes(local) != Bytes(expected) || rest.substr(0, entry.form.name) != StoredName(entry)) {
+            return Refuse(Defect::Damaged, entry.path, "what stands in front of its data differs from the directory");
+        }
+        next_ += qint64{sizeof(local)} + static_cast<qint64>(rest.size()) + entry.form.packed;
+        return ((HasKnownFields(extra) && HasKnownFields(rest.substr(entry.form.name))) ||
+                Refuse(Defect::OddForm, entry.path, "it has a field that is not known")) &&
+               (next_ <= directory_ || Refuse(Defect::Damaged, entry.path, "its data is cut short"));
+    }
+
+    // A link's target is its data, which ends where the next entry begins.
+    bool ReadTarget(Entry& entry) {
+        constexpr std::uint32_t longest = 1 << 16;  // more than any system takes
+        entry.target = entry.form.size > longest ? "" : TakeText(file_, next_ - entry.form.size, entry.form.size);
+        entry.size = 0;
+        return Sum(0, entry.target) == entry.form.sum ||
+               Refuse(Defect::Damaged, entry.path, "its target is not what its sum says");
+    }
+
+    bool Refuse(Defect defect, const std::string& name, const std::string& detail) {
         findings_.Add(defect, name, detail);
         return false;
     }
@@ -143,136 +261,6 @@ private:
     qint64 end_ = 0;        // where it ends
     qint64 next_ = 0;       // where the next local header must begin
 };
-
-// The end tells where the directory is; it must tell that it fills the file up to itself.
-bool DirectoryReader::ReadEnd() {
-    End end;
-    LargeEnd large;
-    if (!Take(file_, file_.size() - qint64{sizeof(end)}, end) || end.signature != End().signature) {
-        return Refuse(defects::Damaged, "",
-                      "it does not end with its directory: it is cut short, or something follows");
-    }
-    const bool isLarge = end.counts[1] == kManyEntries;
-    if (isLarge && !Take(file_, file_.size() - qint64{sizeof(large) + sizeof(end)}, large)) {
-        return Refuse(defects::Damaged, "", "the end of its directory is cut short");
-    }
-    count_ = isLarge ? large.counts[1] : end.counts[1];
-    at_ = directory_ = end.offset;
-    end_ = directory_ + end.size;
-    const std::string expected = EndOf(count_, end.offset, end.size, large.versions);
-    if (end_ + static_cast<qint64>(expected.size()) != file_.size() ||
-        TakeText(file_, end_, static_cast<qint64>(expected.size())) != expected) {
-        return Refuse(defects::Damaged, "", "the end of its directory is wrong, or is one that pack does not write");
-    }
-    return count_ <= kMostEntries || Refuse(defects::TooLarge, "", std::to_string(count_) + " entries");
-}
-
-// What an entry of the directory says of itself.
-bool DirectoryReader::CheckForm(const Entry& entry, const DirectoryHeader& header) {
-    const ZipForm& form = entry.form;
-    const bool isFolder = entry.kind == Kind::Folder;
-    const unsigned copy = header.attributes >> 8 & 0xff;
-    const bool isPlain =
-        header.maker >> 8 == kUnix && form.needed <= ZipForm().needed && header.comment == 0 && header.disk == 0 &&
-        (form.flags & ~(kLevelBits | kUtf8)) == 0 && (IsAscii(entry.path) || (form.flags & kUtf8) != 0) &&
-        (form.method == 0 ? form.packed == form.size : form.method == kDeflated && entry.kind == Kind::File) &&
-        std::max({std::uint32_t{form.packed}, std::uint32_t{form.size}, std::uint32_t{header.offset}}) <
-            kLargestPackage;
-    // A folder is one by its name as well, and has no data; a mode is like its copy.
-    const bool isConsistent = isFolder == (form.name > entry.path.size()) && (!isFolder || form.size == 0) &&
-                              (copy == 0 || copy == kNoCopy || copy == (entry.mode & 0xff)) &&
-                              entry.path.find('\0') == std::string::npos;
-    if ((form.flags & kEncrypted) != 0 || entry.kind == Kind::Other) {
-        return Refuse(entry.kind == Kind::Other ? defects::SpecialFile : defects::Encrypted, entry.path, "");
-    }
-    return (isPlain && isConsistent) || Refuse(defects::OddForm, entry.path,
-                                               QStringLiteral("made by %1, for %2, flags %3, method %4, attributes %5")
-                                                   .arg(header.maker)
-                                                   .arg(form.needed)
-                                                   .arg(form.flags)
-                                                   .arg(form.method)
-                                                   .arg(header.attributes, 0, 16)
-                                                   .toStdString());
-}
-
-// The local header, which must stand where the entry before has ended, and say what the directory says.
-bool DirectoryReader::CompareFront(const Entry& entry, const DirectoryHeader& header) {
-    LocalHeader local;
-    const bool isThere = header.offset == next_ && Take(file_, next_, local);
-    LocalHeader expected;
-    expected.form = entry.form;
-    expected.form.extra = local.form.extra;
-    const std::string rest = TakeText(file_, next_ + qint64{sizeof(local)}, entry.form.name + local.form.extra);
-    if (!isThere || Bytes(local) != Bytes(expected) || rest.substr(0, entry.form.name) != StoredName(entry)) {
-        return Refuse(defects::Damaged, entry.path, "what stands in front of its data differs from the directory");
-    }
-    next_ += qint64{sizeof(local)} + static_cast<qint64>(rest.size()) + entry.form.packed;
-    return (HasKnownFields(rest.substr(entry.form.name)) ||
-            Refuse(defects::OddForm, entry.path, "it has a field that is not known")) &&
-           (next_ <= directory_ || Refuse(defects::Damaged, entry.path, "its data is cut short"));
-}
-
-// A link's target is its data, which ends where the next entry begins.
-bool DirectoryReader::ReadTarget(Entry& entry) {
-    constexpr std::uint32_t longest = 1 << 16;  // more than any system takes
-    entry.target = entry.form.size > longest ? "" : TakeText(file_, next_ - entry.form.size, entry.form.size);
-    entry.size = 0;
-    return Sum(0, entry.target) == entry.form.sum ||
-           Refuse(defects::Damaged, entry.path, "its target is not what its sum says");
-}
-
-bool DirectoryReader::ReadEntry() {
-    DirectoryHeader header;
-    const bool isThere = Take(file_, at_, header) && header.signature == DirectoryHeader().signature;
-    at_ += qint64{sizeof(header)};
-    const std::string rest = isThere ? TakeText(file_, at_, header.form.name + header.form.extra) : std::string();
-    at_ += header.form.name + header.form.extra;
-    if (!isThere || at_ > end_) {
-        return Refuse(defects::Damaged, "",
-                      "its directory breaks off behind " + std::to_string(entries_.size()) + " entries");
-    }
-    Entry entry;
-    entry.path = rest.substr(0, header.form.name);
-    entry.size = header.form.size;
-    entry.form = header.form;
-    const bool endsInSlash = !entry.path.empty() && entry.path.back() == '/';
-    const auto mode = static_cast<unsigned>(header.attributes >> 16);
-    // A packer that tells no type means a file, or a folder where the name says so.
-    entry.kind = (mode & S_IFMT) != 0 ? KindOf(mode) : endsInSlash ? Kind::Folder : Kind::File;
-    entry.mode = mode & 07777;
-    if (endsInSlash) {
-        entry.path.pop_back();
-    }
-    if (!HasKnownFields(rest.substr(header.form.name))) {
-        return Refuse(defects::OddForm, entry.path, "it has a field that is not known");
-    }
-    if (!CheckForm(entry, header) || !CompareFront(entry, header) || (entry.kind == Kind::Link && !ReadTarget(entry))) {
-        return false;
-    }
-    entries_.push_back(std::move(entry));
-    return true;
-}
-
-Error DirectoryReader::Run() {
-    std::uint32_t signature = 0;
-    if (!Take(file_, 0, signature) || (signature != LocalHeader().signature && signature != End().signature)) {
-        findings_.Add(defects::NoZip, "");
-        return {};
-    }
-    if (!ReadEnd()) {
-        return {};
-    }
-    Progress progress("looking", static_cast<std::int64_t>(count_));
-    for (std::uint64_t left = count_; left > 0; --left) {
-        if (Error error = progress.Advance(1); error || !ReadEntry()) {
-            return error;
-        }
-    }
-    if (at_ != end_ || next_ != directory_) {
-        findings_.Add(defects::Damaged, "", "something stands between its entries, its directory and its end");
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -290,14 +278,14 @@ ZipWriter::ZipWriter(QFile& file, std::time_t time) : file_(file) {
 
 Error ZipWriter::Write(std::string_view bytes) {
     const auto size = static_cast<qint64>(bytes.size());
+    if (file_.pos() + size >= kLargestPackage) {
+        return Error("a package can't be larger than " + SizeText(kLargestPackage));
+    }
     return file_.write(bytes.data(), size) == size ? Error() : Error::System("can't write it");
 }
 
 Error ZipWriter::Add(Entry& entry, const Source& source) {
     const qint64 offset = file_.pos();
-    if (offset + entry.size >= kLargestPackage) {
-        return Error("a package can't be larger than " + SizeText(kLargestPackage));
-    }
     const std::string name = StoredName(entry);
     ZipForm& form = entry.form = form_;
     form.flags = IsAscii(name) ? 0 : kUtf8;
@@ -356,8 +344,5 @@ Error ZipWriter::WriteDeflated(Entry& entry, const Source& source) {
 
 Error ZipWriter::Finish() {
     const auto offset = static_cast<std::uint64_t>(file_.pos());
-    if (offset + directory_.size() >= static_cast<std::uint64_t>(kLargestPackage)) {
-        return Error("a package can't be larger than " + SizeText(kLargestPackage));
-    }
     return Write(directory_ + EndOf(count_, offset, directory_.size(), LargeEnd().versions));
 }

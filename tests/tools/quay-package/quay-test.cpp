@@ -6,7 +6,6 @@
 #include <QJsonDocument>
 
 #include "tools/quay-package/checks.h"
-#include "tools/quay-package/rules.h"
 #include "tools/quay-package/zip.h"
 
 Lines QuayTest::Words(const std::string& line) const {
@@ -48,8 +47,8 @@ Codes QuayTest::CodesOf(const QJsonObject& object, const char* key) {
 
 Codes QuayTest::CodesOf(const Findings& findings) {
     Codes codes;
-    for (const auto& [code, group] : findings.found()) {
-        codes.insert(IdOf(*group.defect));
+    for (const auto& [defect, group] : findings.found()) {
+        codes.insert(IdOf(defect));
     }
     return codes;
 }

@@ -1,5 +1,5 @@
 // Every defect that can be sown is found, under its own code and no other than those that follow from it.
-#include "tools/quay-package/rules.h"
+#include "tools/quay-package/checks.h"
 
 #include <algorithm>
 
@@ -165,18 +165,19 @@ TEST_F(RulesTest, FindEverySeed) {
             sow(entries);
         }
         Findings findings;
-        VersionInfo versions;
-        Program client = Program::None;
         CheckTree(entries, kLargestPackage - 1, findings);
         if (findings.IsEmpty()) {
-            ASSERT_FALSE(CheckContents(entries, findings, versions, client));
+            ::Package package;
+            package.entries = entries;
+            ASSERT_FALSE(CheckContents(package, findings));
         }
         EXPECT_EQ(CodesOf(findings), codes);
         sown.insert(codes.begin(), codes.end());
     }
-    for (const Defect* defect : defects::kAll) {
-        const bool isOurs = (defect->code > 200 && defect->code < 513) || defect->code == 103 || defect->code == 105;
-        EXPECT_EQ(sown.count(IdOf(*defect)), isOurs ? 1U : 0U) << IdOf(*defect);
+    for (const auto& [defect, texts] : AllDefects()) {
+        const int code = static_cast<int>(defect);
+        const bool isOurs = (code > 200 && code < 513) || code == 103 || code == 105;
+        EXPECT_EQ(sown.count(IdOf(defect)), isOurs ? 1U : 0U) << IdOf(defect);
     }
 }
 
@@ -187,14 +188,14 @@ TEST_F(RulesTest, AcceptedFindingsAreTold) {
     for (const char* harmful : {"KQ402", "KQ205=Contents/x", "KQ999", "404", ""}) {
         EXPECT_TRUE(findings.Accept(harmful)) << harmful;
     }
-    findings.Add(defects::LinkDangling, "Contents/Resources/l");
-    findings.Add(defects::LinkDangling, "Contents/Resources/m");
-    findings.Add(defects::NameLitter, "Contents/x~");
+    findings.Add(Defect::LinkDangling, "Contents/Resources/l");
+    findings.Add(Defect::LinkDangling, "Contents/Resources/m");
+    findings.Add(Defect::NameLitter, "Contents/x~");
     EXPECT_EQ(CodesOf(findings), Codes{"KQ404"});
     EXPECT_EQ(findings.accepted().size(), 2U);
     for (int number = 0; number < 400; ++number) {
-        findings.Add(defects::LinkLoop, std::to_string(number));
+        findings.Add(Defect::LinkLoop, std::to_string(number));
     }
     EXPECT_EQ(findings.Total(), 401U);
-    EXPECT_EQ(findings.found().at(405).kept.size(), 25U);
+    EXPECT_EQ(findings.found().at(Defect::LinkLoop).kept.size(), 25U);
 }

@@ -7,7 +7,7 @@
 #include "extractor.h"
 #include "quay-test.h"
 #include "resources/str-table.h"
-#include "tools/quay-package/rules.h"
+#include "tools/quay-package/checks.h"
 
 class ZipTest : public QuayTest {
 protected:

@@ -1,4 +1,3 @@
-#!/usr/bin/env python3
 """Plants one defect of each kind in a copy of the catalogs and expects scripts/check-catalogs to name it; takes each
 catalog through the formats that translators use. $LCONVERT is Qt's converter."""
 

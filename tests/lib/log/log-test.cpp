@@ -37,11 +37,12 @@ constexpr std::size_t kStamp = 20;              // bytes of a time stamp
 
 class LogTest : public FolderTest {
 protected:
-    // What `config` holds after it has read a file with this text: "key=value;" each, and "!" in front of a failure.
-    std::string Held(const std::string& text, Config&& config = Config()) const {
+    // What `config_` holds after it has read a file with this text: "key=value;" each, and "!" in front of a failure.
+    std::string Held(const std::string& text, const Config& before = Config()) {
+        config_ = before;
         Write(At("file"), text);
-        std::string held = config.read(At("file")) == 0 ? "" : "!";
-        for (const auto& [key, value] : config) {
+        std::string held = config_.read(At("file")) == 0 ? "" : "!";
+        for (const auto& [key, value] : config_) {
             held += key + "=" + value + ";";
         }
         fs::remove(At("file"));
@@ -76,6 +77,8 @@ protected:
         }
         return files;
     }
+
+    Config config_;
 };
 
 TEST_F(LogTest, ConfigTellsBytesApart) {
@@ -111,19 +114,18 @@ TEST_F(LogTest, OddConfigFiles) {
     EXPECT_EQ(Held("k=" + piece + "z=1\n"), "k=" + piece + ";z=1;");
     EXPECT_EQ(Held("k=" + piece + "z\n") + Held("k=\"" + piece + "\"\n"), "!!");
     // Quotes stay on request. A file that can't be read changes nothing, a second one adds, a bad one clears.
-    Config config;
-    config.keep_quotes = true;
-    EXPECT_EQ(Held("a=\"a b\"\nb='a'\nc=a\n", std::move(config)), "a=\"a b\";b='a';c=a;");
-    EXPECT_EQ(config.read("") + config.read("/no/such/file") + config.read("/dev/zero"), -3);
-    EXPECT_EQ(Held("b=2\n", std::move(config)), "a=\"a b\";b=2;c=a;");
-    EXPECT_EQ(Held("d=4\nbad\n", std::move(config)), "!");
+    config_.keep_quotes = true;
+    EXPECT_EQ(Held("a=\"a b\"\nb='a'\nc=a\n", config_), "a=\"a b\";b='a';c=a;");
+    EXPECT_EQ(config_.read("") + config_.read("/no/such/file") + config_.read("/dev/zero"), -3);
+    EXPECT_EQ(Held("b=2\n", config_), "a=\"a b\";b=2;c=a;");
+    EXPECT_EQ(Held("d=4\nbad\n", config_), "!");
     // To look a missing key up inserts it.
     for (const char* number : {"-3", "+8", "12abc", "abc", "0x10", " 5", "1,000", "2147483648", "-2147483649"}) {
-        config["key"] = number;
-        EXPECT_EQ(config.get_int("key"), std::clamp<long>(std::strtol(number, nullptr, 10), INT_MIN, INT_MAX));
+        config_["key"] = number;
+        EXPECT_EQ(config_.get_int("key"), std::clamp<long>(std::strtol(number, nullptr, 10), INT_MIN, INT_MAX));
     }
-    EXPECT_EQ(config.get_int("Key"), 0);
-    EXPECT_EQ(std::distance(config.begin(), config.end()), 2);
+    EXPECT_EQ(config_.get_int("Key"), 0);
+    EXPECT_EQ(std::distance(config_.begin(), config_.end()), 2);
 }
 
 TEST_F(LogTest, EachDestination) {

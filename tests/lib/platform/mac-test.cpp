@@ -31,7 +31,7 @@ OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 /*pathBufferSize*/)
 }
 
 int kq_stand_in_statfs(const char* path, struct statfs* status) {
-    std::strcpy(status->f_fstypename, path);
+    std::memcpy(status->f_fstypename, path, std::strlen(path) + 1);
     return volumeStatus;
 }
 

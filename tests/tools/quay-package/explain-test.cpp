@@ -31,7 +31,6 @@ TEST_F(ExplainTest, SaysWhatTheLauncherThenDoes) {
     const QJsonObject first = Explain({});
     EXPECT_EQ(Value(first, "decision"), "install");
     EXPECT_EQ(Value(first, "migrate"), old_);
-    EXPECT_EQ(Value(first, "package"), "10");
     ExpectLaunched(Launch(), 8);
     EXPECT_EQ(ReadTree(App()), ClientTree(8));
     EXPECT_TRUE(fs::exists(Private("data/history")));

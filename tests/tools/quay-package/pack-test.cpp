@@ -6,8 +6,7 @@
 
 class PackTest : public ClientTest {};
 
-// The same client, laid in another folder in another order, at another time, with other modes, packed under another
-// umask, locale and time zone: the same bytes.
+// Wherever the client lies, in whatever order it was laid, under another umask, locale and time zone.
 TEST_F(PackTest, GivesTheSameBytesAnywhere) {
     Succeed("pack @client -o @one --build 7");
     EXPECT_EQ(fs::status(At("one")).permissions(), fs::perms(0644));
@@ -61,13 +60,12 @@ TEST_F(PackTest, StampsInfoSoThatTheLauncherReadsIt) {
     }
 }
 
-// Inputs that are refused, with nothing written.
 TEST_F(PackTest, RefusesWhatCantBeMended) {
-    const std::string info = At("client/Contents/Resources/INFO");
+    const std::string c = At("client/Contents/");
     const Cases inputs = {
-        {{"KQ302"}, [&] { MakeFifo(At("client/Contents/fifo")); }},
-        {{"KQ504"}, [&] { MakeFifo(info); }},
-        {{"KQ512"}, [&] { Write(info, std::string(70000, '\n')); }},
+        {{"KQ302"}, [&] { MakeFifo(c + "fifo"); }},
+        {{"KQ504"}, [&] { MakeFifo(c + "Resources/INFO"); }},
+        {{"KQ512"}, [&] { Write(c + "Resources/INFO", std::string(70000, '\n')); }},
     };
     for (const auto& [codes, spoil] : inputs) {
         MakeClient();
@@ -91,7 +89,10 @@ TEST_F(PackTest, MendsWhatItCan) {
     EXPECT_EQ(CodesOf(packed, "mended"), (Codes{"KQ211", "KQ212", "KQ301", "KQ303"}));
     EXPECT_EQ(packed.value(QStringLiteral("mended")).toArray().size(), 35);
     Succeed("check @p.kpk");
+    const std::string entry = "link     0777            0  Contents/Resources/current -> only-in-7\n";
+    EXPECT_NE(Run("list @p.kpk").output.find(entry), std::string::npos);
     EXPECT_EQ(Value(packed, "entries"), "11");
+    EXPECT_EQ(Value(RunJson("list @p.kpk"), "bytes"), Value(packed, "bytes"));
     EXPECT_EQ(Value(RunJson("pack @client -o @p.kpk --build 7 --keep-all"), "entries"), "73");
     const std::string text = "KQ211  Contents/Resources/._large: an AppleDouble leftover\n";
     EXPECT_NE(Run("check @p.kpk").output.find(text), std::string::npos);
@@ -156,11 +157,8 @@ TEST_F(PackTest, AFaultLeavesTheOldOutputOrTheNew) {
                 fs::remove_all(At("out"));
                 Write(At(command == bundle ? "out/made/Contents/MacOS/kelvane-quay-launcher" : "out/made"), "old");
                 const Tree old = ReadTree(At("out"));
-                Lines line = {"-e", "inject=" + call + ":" + fault + ":when=" + std::to_string(at)};
-                for (const std::string& word : Words(command)) {
-                    line.push_back(word);
-                }
-                const Outcome outcome = RunProcess(Traced(line), environment_);
+                const Lines injection = {"-e", "inject=" + call + ":" + fault + ":when=" + std::to_string(at)};
+                const Outcome outcome = RunProcess(Traced(Words(command, injection)), environment_);
                 wasHit = outcome.exitCode != 0 || Read(At("trace")).find("INJECTED") != std::string::npos;
                 EXPECT_LE(outcome.exitCode, 2);
                 Tree left = ReadTree(At("out"));

@@ -21,8 +21,8 @@ Entry MakeEntry(const std::string& path, Kind kind, const std::string& text, uns
     return entry;
 }
 
-Lines QuayTest::Words(const std::string& line) const {
-    Lines words = {tool_};
+Lines QuayTest::Words(const std::string& line, Lines words) const {
+    words.push_back(tool_);
     for (const QString& part : QProcess::splitCommand(QString::fromStdString(line))) {
         const std::string word = part.toStdString();
         words.push_back(word[0] == '@' ? At(word.substr(1)) : word == "LAUNCHER" ? KQ_LAUNCHER : word);

@@ -18,8 +18,8 @@ Entry MakeEntry(const std::string& path, Kind kind = Kind::File, const std::stri
 
 class QuayTest : public LauncherTest {
 protected:
-    // The tool with the arguments of a line: "@x" is x in the test's folder, LAUNCHER the built one.
-    Lines Words(const std::string& line) const;
+    // Behind other words the tool with the arguments of a line: "@x" is x in the test's folder, LAUNCHER the built one.
+    Lines Words(const std::string& line, Lines words = {}) const;
     Outcome Run(const std::string& line) const { return RunProcess(Words(line), environment_); }
 
     // With --json: the object that it printed; a text or a number in it; the codes in it, and "error" for a failure.

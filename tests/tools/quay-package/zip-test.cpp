@@ -30,17 +30,13 @@ TEST_F(ZipTest, NoChangeOfAByteGoesUnnoticed) {
     const Tree tree = Install(good_);
     ASSERT_EQ(tree.size(), GoodEntries().size());
     ASSERT_EQ(CheckBytes(good_), Lines());
-    std::size_t unnoticed = 0;
     std::mt19937 source(1);
     const auto change = [&](std::size_t at, std::size_t twin) {
         const auto bits = static_cast<char>(1 + source() % 255);
         std::string bad = good_;
         bad[at] ^= bits;
         bad[twin] ^= twin == at ? '\0' : bits;
-        if (CheckBytes(bad).empty()) {
-            ++unnoticed;
-            ASSERT_EQ(Install(bad), tree) << "byte " << at << ", " << static_cast<int>(bad[at]);
-        }
+        ASSERT_TRUE(!CheckBytes(bad).empty() || Install(bad) == tree) << "byte " << at << ", bits " << int{bits};
     };
     for (std::size_t at = 0; at < good_.size(); ++at) {
         change(at, at);
@@ -52,11 +48,8 @@ TEST_F(ZipTest, NoChangeOfAByteGoesUnnoticed) {
             change(local + field, central + field + 2);
         }
     }
-    // Times, and what the packer says of itself.
-    EXPECT_LT(unnoticed, good_.size() / 2);
 }
 
-// However it is cut it is damaged, and nothing else is said.
 TEST_F(ZipTest, ACutFileIsDamaged) {
     for (std::size_t size = 4; size < good_.size(); size += 7) {
         ASSERT_EQ(CheckBytes(good_.substr(0, size)), Lines{"KQ102"}) << size;
@@ -98,9 +91,8 @@ TEST_F(ZipTest, WhatPackDoesNotWriteIsRefused) {
 // What another tool wrote is good but for the order of its entries.
 TEST_F(ZipTest, AnotherToolsArchiveHasAGoodForm) {
     MakeClient();
-    const std::string script = "cd \"$0\" && exec python3 -m zipfile -c ../p.kpk Contents";
-    EXPECT_EQ(RunProcess({"/bin/sh", "-c", script, At("client")}, {{"PATH", "/usr/bin"}, {"LANG", "C.UTF-8"}}).exitCode,
-              0);
+    const std::string script = "cd \"$0\" && exec /usr/bin/python3 -m zipfile -c ../p.kpk Contents";
+    EXPECT_EQ(RunProcess({"/bin/sh", "-c", script, At("client")}, environment_).exitCode, 0);
     EXPECT_EQ(Find("check @p.kpk"), (Codes{"KQ507", "KQ508"}));
 }
 

@@ -1,5 +1,4 @@
-// Every defect that can be sown is found, under its own code and no other than those that follow from it; and what the
-// content of a few files must be.
+// Every defect that can be sown is found, under its own code and no other than those that follow from it.
 #include "product-layout.h"
 #include "quay-test.h"
 #include "tools/quay-package/content.h"

@@ -13,10 +13,10 @@ const std::map<Defect, DefectTexts>& AllDefects() {
         std::map<Defect, DefectTexts> read;
         Q_INIT_RESOURCE(bundle_files);
         QFile document(QStringLiteral(":/bundle/findings.md"));
-        document.open(QIODevice::ReadOnly);
+        const QByteArray text = document.open(QIODevice::ReadOnly) ? document.readAll() : QByteArray();
         const QRegularExpression row(QStringLiteral("^\\| KQ(\\d+) \\| (.+) \\| (.+) \\| (.+) \\|$"),
                                      QRegularExpression::MultilineOption);
-        for (auto rows = row.globalMatch(QString::fromUtf8(document.readAll())); rows.hasNext();) {
+        for (auto rows = row.globalMatch(QString::fromUtf8(text)); rows.hasNext();) {
             const QStringList cells = rows.next().capturedTexts();
             const auto defect = static_cast<Defect>(cells[1].toInt());
             read[defect] = {cells[2].toStdString(), cells[3].toStdString(), cells[4].toStdString()};

@@ -64,7 +64,7 @@ TEST_F(MigrationTest, TheOlderClientIsStoppedAlsoWithoutAFolderForTheLog) {
     KQ_NEED(Ability::Tracing);
     LayBundle(1000);
     LayOlder();
-    FakeClient client(manners::kPrompt);
+    FakeClient client(FakeClient::kPrompt);
     Write(Older("ui.pid"), "pid=" + std::to_string(client.id()) + "\n");
     Launch(Traced({"-P", Private("log"), "-e", "trace=mkdir", "-e", "inject=mkdir:error=EIO:when=1"}));
     EXPECT_EQ(mailbox_.ReadLine(), StartedLine(1000));

@@ -14,7 +14,7 @@ protected:
 TEST_F(ProcessTest, ARunningClientIsStoppedForAnUpgradeAlone) {
     InstallClient(1000);
     LayBundle(1000);
-    FakeClient prompt(manners::kPrompt);
+    FakeClient prompt(FakeClient::kPrompt);
     WritePid(prompt.id());
     ExpectLaunched(Launch(), 1000);
     EXPECT_EQ(kill(prompt.id(), 0), 0);
@@ -34,7 +34,7 @@ TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
         fs::remove_all(home_);
         InstallClient(1000);
         LayBundle(2000);
-        FakeClient client(manners::kDeaf);
+        FakeClient client(FakeClient::kDeaf);
         WritePid(client.id());
         Lines arguments = {"-e", "trace=kill,clock_nanosleep", "-e", "inject=clock_nanosleep:retval=0"};
         if (isAnothers) {
@@ -55,7 +55,7 @@ TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
 }
 
 TEST_F(ProcessTest, PidFilesThatNameNobody) {
-    const pid_t ended = FakeClient(manners::kPrompt).id();
+    const pid_t ended = FakeClient(FakeClient::kPrompt).id();
     const std::string file = Private("ui.pid");
     const std::string texts[] = {"pid=" + std::to_string(ended) + "\n",
                                  "# client\nport = 1\npid = \"" + std::to_string(ended) + "\"\n",
@@ -96,7 +96,7 @@ TEST_F(ProcessTest, ASecondStartLeavesAtOnceAndAKilledFirstOneDoesNotBlock) {
         LogEverything();
         environment_[hasFolder ? "XDG_RUNTIME_DIR" : "TMPDIR"] = At("run");
         environment_.erase(hasFolder ? "TMPDIR" : "XDG_RUNTIME_DIR");
-        FakeClient client(manners::kDeaf);
+        FakeClient client(FakeClient::kDeaf);
         WritePid(client.id());
         Process first(Arguments(), environment_);
         EXPECT_EQ(client.ReadLine(), "term");  // the first launcher is now busy waiting for the client

@@ -80,16 +80,14 @@ TEST_F(UpgradeTest, EachStepIsLoggedWhenAskedTo) {
 }
 
 TEST_F(UpgradeTest, FailedExtractionPutsTheOldCopyBack) {
+    const PackageEntry escaping = {"../escaped", "x"};
+    // A damage, and what the first line has.
     const std::pair<std::function<void()>, std::string> cases[] = {
-        // and what the first line has
         {[&] { fs::remove(Package()); }, "archive_read_open_filename failed: 'Failed to open '" + Package() + "''"},
         {[&] { Write(Package(), ""); }, ""},
         {[&] { fs::resize_file(Package(), fs::file_size(Package()) / 2); }, ""},
         {[&] { WritePackage(Package(), {}, "pax"); }, "Failed to calculate total file numbers, ret: 0"},
-        {[&] {
-             WritePackage(Package(), {{"../escaped", "x"}});
-         },
-         "extract2 failed: 'Path contains '..''"},
+        {[&] { WritePackage(Package(), {escaping}); }, "extract2 failed: 'Path contains '..''"},
         {[&] { WritePackage(Package(), ClientEntries(2000), "pax"), fs::resize_file(Package(), 4608); },
          "[ERROR] archive_read_"}};
     InstallClient(1000);
@@ -126,45 +124,42 @@ TEST_F(UpgradeTest, FailedExtractionPutsTheOldCopyBack) {
 }
 
 TEST_F(UpgradeTest, LeftoversUnderBackupNames) {
-    const std::string failed = "[ERROR] failed to backup app from '" + App() + "' -> '" + App() + "_tmp";
-    // Leaves something under these of the ten names; what it looks like.
-    const auto leave = [&](int first, int last) {
-        Tree left;
-        for (int at = first; at <= last; ++at) {
-            const std::string name = "KelvaneQuay.app_tmp" + (at == 0 ? "" : std::to_string(at));
-            Write(Private(name) + "/kept", "by an earlier run");
-            left[name] = "755 folder";
-            left[name + "/kept"] = "644 file by an earlier run";
-        }
-        return left;
-    };
-    // Two in the way: the third name takes the copy, and all three go after the success. One beyond stays.
+    const auto name = [](int at) { return "KelvaneQuay.app_tmp" + (at == 0 ? "" : std::to_string(at)); };
     InstallClient(1000);
     LayBundle(2000);
-    leave(0, 1);
-    Tree left = leave(7, 7);
-    ExpectLaunched(Launch(), 2000);
-    Lines lines = {failed + "'", failed + "1'"};
-    EXPECT_EQ(LogLines(), lines);
-    EXPECT_EQ(PrivateTree(), HomeWith(2000, left));
-
-    // All ten in the way: the old copy stays in use, and nothing is unpacked.
-    left = leave(0, 9);
-    for (int at = 2; at <= 9; ++at) {
-        lines.push_back(failed + std::to_string(at) + "'");
+    Tree left;
+    Lines lines;
+    for (int at = 0; at < 10; ++at) {
+        Write(Private(name(at)) + "/kept", "by an earlier run");
+        left[name(at)] = "755 folder";
+        left[name(at) + "/kept"] = "644 file by an earlier run";
+        lines.push_back("[ERROR] failed to backup app from '" + App() + "' -> '" + Private(name(at)) + "'");
     }
-    lines.insert(lines.end(), {failed + "9' at max retries, exiting", "[ERROR] Failed to upgrade package"});
-    LayBundle(3000);
-    fs::remove_all(Private("log"));
-    ExpectLaunched(Launch(), 2000);
-    EXPECT_EQ(PrivateTree(), HomeWith(2000, left));
+    // All ten in the way: the old copy stays in use, and nothing is unpacked.
+    lines.insert(lines.end(), {lines[9] + " at max retries, exiting", "[ERROR] Failed to upgrade package"});
+    ExpectLaunched(Launch(), 1000);
     EXPECT_EQ(LogLines(), lines);
+    EXPECT_EQ(PrivateTree(), HomeWith(1000, left));
 
     // The last name is as good as the first, and a rollback from it leaves the others where they lie.
-    fs::remove_all(App() + "_tmp9");
-    fs::remove(Package());
+    const auto remove = [&](int at) {
+        fs::remove_all(Private(name(at)));
+        left.erase(name(at));
+        left.erase(name(at) + "/kept");
+    };
+    remove(9);
+    fs::rename(Package(), At("away"));
+    ExpectLaunched(Launch(), 1000);
+    EXPECT_EQ(PrivateTree(), HomeWith(1000, left));
+
+    // After a success all go up to the one that took the copy, and those beyond stay.
+    fs::rename(At("away"), Package());
+    fs::remove_all(Private(name(2)));
     ExpectLaunched(Launch(), 2000);
-    EXPECT_EQ(PrivateTree(), HomeWith(2000, leave(0, 8)));
+    for (const int at : {0, 1, 2}) {
+        remove(at);
+    }
+    EXPECT_EQ(PrivateTree(), HomeWith(2000, left));
 }
 
 TEST_F(UpgradeTest, ThePrivateFolderIsInTheWayALinkOrReadOnly) {

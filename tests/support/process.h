@@ -34,16 +34,13 @@ public:
 // Starts a program and waits for its end.
 Outcome RunProcess(const std::vector<std::string>& arguments, const Environment& environment = {});
 
-// What a running client does. Each tells its process id first.
-namespace manners {
-constexpr char kPrompt[] = "echo $$; exec sleep 60";  // ends on SIGTERM
-constexpr char kDeaf[] =
-    "trap 'echo term' TERM; echo $$; while read -r <&3; do :; done";  // tells of SIGTERM, and stays
-}  // namespace manners
-
 // A process that stands for a running client: a script beneath a shell that takes notice of its end.
 class FakeClient : public Process {
 public:
+    // Ends on SIGTERM; tells of it, and stays. Each tells its process id first.
+    static constexpr char kPrompt[] = "echo $$; exec sleep 60";
+    static constexpr char kDeaf[] = "trap 'echo term' TERM; echo $$; while read -r <&3; do :; done";
+
     explicit FakeClient(const std::string& script)
         : Process({"/bin/bash", "-c", "exec 3<&0; bash -c \"$0\" & wait $! 2>/dev/null; echo $?", script}),
           id_(std::stoi("0" + ReadLine())) {}

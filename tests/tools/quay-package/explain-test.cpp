@@ -41,7 +41,7 @@ TEST_F(ExplainTest, SaysWhatTheLauncherThenDoes) {
     MakeBundle(9);
     Write(Private("KelvaneQuay.app_tmp/leftover"), "");
     Write(old_ + "/app/x", "");
-    FakeClient client(manners::kPrompt);
+    FakeClient client(FakeClient::kPrompt);
     Write(Private("ui.pid"), "pid=" + std::to_string(client.id()) + "\n");
     const QJsonObject third = Explain({"KQ806", "KQ809"});
     EXPECT_EQ(Value(third, "decision"), "upgrade");

@@ -1,6 +1,4 @@
 // What no run of the launcher shows of its parts: odd entries, damage behind good ones, and what nothing calls.
-#include <archive_entry.h>
-
 #include <QApplication>
 #include <QProgressBar>
 
@@ -8,7 +6,6 @@
 #include "launcher.h"
 #include "mac/mac-service.h"
 #include "path-table.h"
-#include "posix/archive.h"
 #include "resources/str-table.h"
 #include "test-folder.h"
 
@@ -73,21 +70,6 @@ TEST_F(AppTest, EmptyPathsOfAPackage) {
     EXPECT_EQ(::testing::internal::GetCapturedStdout(), "one\nfolder/two\n");
     extractor_.sourcePath = At("absent");
     EXPECT_NE(MessageOf(&Extractor::List, -1), "");
-}
-
-TEST_F(AppTest, TheDataOfAnEntryIsCopied) {
-    EXPECT_NE(StandardErrorOf([&] { EXPECT_EQ(extractor_.copy_data(nullptr, nullptr), -1); }), "");
-    WritePackage(At("package"), {{At("copy"), std::string(100000, 's')}}, "pax");
-    const ArchiveReader reader(archive_read_new());
-    const ArchiveWriter writer(archive_write_disk_new());
-    archive_entry* entry = nullptr;
-    archive_read_support_format_all(reader.get());
-    ASSERT_EQ(archive_read_open_filename(reader.get(), At("package").c_str(), 10240), ARCHIVE_OK);
-    ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
-    ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);
-    EXPECT_EQ(extractor_.copy_data(reader.get(), writer.get()), 0);
-    EXPECT_EQ(archive_write_finish_entry(writer.get()), ARCHIVE_OK);
-    EXPECT_EQ(Read(At("copy")), std::string(100000, 's'));
 }
 
 TEST_F(AppTest, ATreeIsCopied) {

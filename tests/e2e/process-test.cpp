@@ -55,34 +55,30 @@ TEST_F(ProcessTest, AClientThatStaysIsKilledInTheEnd) {
 }
 
 TEST_F(ProcessTest, PidFilesThatNameNobody) {
-    const pid_t ended = FakeClient(FakeClient::kPrompt).id();
+    const std::string ended = std::to_string(FakeClient(FakeClient::kPrompt).id());
     const std::string file = Private("ui.pid");
-    const std::string texts[] = {"pid=" + std::to_string(ended) + "\n",
-                                 "# client\nport = 1\npid = \"" + std::to_string(ended) + "\"\n",
-                                 "",  // from here on nobody can be read in it
-                                 "process=1\n",
-                                 "pid=\"\"\n",
-                                 "pid=\n",
-                                 "pid=" + std::to_string(getpid()) + "\nwhat is this\n",
-                                 std::string("\0\1\2\xFF", 4) + "\n",
-                                 "a folder",
-                                 "a FIFO"};  // which keeps nobody waiting
     int build = 1000;
     InstallClient(build);
     LogEverything();
-    for (const std::string& text : texts) {
+    // From the third on nobody can be read in it. A FIFO keeps nobody waiting.
+    const Lines lays = {"echo pid=" + ended + " >",
+                        "printf '# client\\nport = 1\\npid = \"" + ended + "\"\\n' >",
+                        ": >",
+                        "echo process=1 >",
+                        "echo 'pid=\"\"' >",
+                        "printf \"pid=$PPID\\nwhat is this\\n\" >",
+                        "printf '\\0\\1\\377\\n' >",
+                        "mkdir",
+                        "mkfifo"};
+    for (const std::string& lay : lays) {
         LayBundle(++build);
         fs::remove_all(file);
         fs::remove_all(Private("log"));
-        text == "a folder" ? static_cast<void>(fs::create_directory(file)) : Write(file, text);
-        if (text == "a FIFO") {
-            fs::remove(file);
-            EXPECT_EQ(mkfifo(file.c_str(), 0600), 0);
-        }
+        EXPECT_EQ(RunProcess({"/bin/sh", "-c", lay + " \"$0\"", file}).exitCode, 0) << lay;
         ExpectLaunched(Launch(), build);
         const Lines lines = LogLines();
         const std::string note = "[NOTE] Failed to read pid file '" + file + "', not exist ?";
-        EXPECT_EQ(std::count(lines.begin(), lines.end(), note), build > 1002 ? 1 : 0) << text;
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), note), build > 1002 ? 1 : 0) << lay;
     }
 }
 

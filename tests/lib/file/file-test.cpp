@@ -1,9 +1,7 @@
 #include <regex>
-#include <set>
 
 #include "file/file-op.h"
 #include "file/internal.h"
-#include "file/tmp-name.h"
 #include "log/logger.h"
 #include "test-folder.h"
 #include "volume.h"
@@ -150,14 +148,6 @@ TEST_F(FileTest, OverAVolumeBorder) {
     EXPECT_EQ("-3 [ERROR] CopyFile: write: No space left on device (28)\n", Told(FSRename, "dir", "volume/dir", false));
     EXPECT_EQ("-3", Told(FSRename, "dir", "volume/dir/sub/1", false).substr(0, 2));
     EXPECT_TRUE(fs::exists("dir/big"));
-}
-
-TEST_F(FileTest, TemporaryNames) {
-    std::set<std::string> names;
-    for (int number = 0; number < 1000; ++number) {
-        const std::string name = TmpNameGen::getInstance().getTmpName();
-        EXPECT_TRUE(std::regex_match(name, std::regex("[-_0-9a-zA-Z]{8}")) && names.insert(name).second) << name;
-    }
 }
 
 TEST_F(FileTest, RecordsAndWhatTheyTellOfLinks) {

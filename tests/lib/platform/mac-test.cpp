@@ -1,16 +1,13 @@
-// The macOS bodies on fakes that answer as told.
+// The Mac's file references, on fakes that answer as told.
 #include <CoreServices/CoreServices.h>
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 
 #include <cstring>
 
 #include "platform/file-reference.h"
-#include "platform/volume-type.h"
 
 static OSStatus referenceStatus = 0;
 static OSStatus pathStatus = 0;
-static int volumeStatus = -1;
 
 extern "C" {
 
@@ -30,11 +27,6 @@ OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 /*pathBufferSize*/)
     return pathStatus;
 }
 
-int kq_stand_in_statfs(const char* path, struct statfs* status) {
-    std::memcpy(status->f_fstypename, path, std::strlen(path) + 1);
-    return volumeStatus;
-}
-
 }  // extern "C"
 
 TEST(MacTest, FileReferences) {
@@ -47,10 +39,4 @@ TEST(MacTest, FileReferences) {
             EXPECT_EQ(forReference + forPath == 0 ? spelled : "old", path);
         }
     }
-}
-
-TEST(MacTest, VolumeTypes) {
-    EXPECT_EQ(platform::VolumeTypeName("/x"), std::nullopt);
-    volumeStatus = 0;
-    EXPECT_EQ(platform::VolumeTypeName("fifteen letters"), "fifteen letters");
 }

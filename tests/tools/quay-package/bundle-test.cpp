@@ -131,7 +131,3 @@ TEST_F(BundleTest, ShowsProgressOnATerminalOnly) {
     EXPECT_NE(full, std::string::npos) << outcome.output;
     EXPECT_GT(outcome.output.find(": good"), full);
 }
-
-TEST_F(BundleTest, TheDocumentsTableIsPrinted) {
-    EXPECT_NE(Read(std::string(KQ_DOCS) + "/findings.md").find(Run("check --codes").output), std::string::npos);
-}

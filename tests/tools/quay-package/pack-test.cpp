@@ -123,6 +123,7 @@ TEST_F(PackTest, WrongUsageIsTwo) {
         EXPECT_EQ(RunJson(command + " @nothing --frobnicate").keys(), RunJson(command).keys());
     }
     EXPECT_EQ(Run("--version").output.substr(0, 13), "quay-package ");
+    EXPECT_NE(Run("check --codes").output.find("\n| KQ904 |"), std::string::npos);
 }
 
 // Whatever goes on changing in the folder while it is packed.

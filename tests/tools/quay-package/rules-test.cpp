@@ -164,39 +164,24 @@ TEST_F(RulesTest, DesktopEntries) {
     const std::string bare = "[Desktop Entry]\nType=Application\nName=X\n";
     const std::string exec = bare + "Exec=/o/Contents/MacOS/launcher";
     const std::string good = exec + "\n";
-    const Lines taken = {
-        "# a\n\n" + good + "Name[de]=Ü\nTerminal = false\nCategories=Network;X-Own;\nX-Any=1\n",
-        good + "Version=1.0\nKeywords=a;b;\nTryExec=/bin/true\nPath=/ü\nComment=a\\xb\n",
-        good + "Actions=new;\n\n[Desktop Action new]\nName=New\nExec=/o/Contents/MacOS/launcher --new\n",
-        exec + " %U --icon %i %%\n", bare + "Exec=\"/opt/my X.app/Contents/MacOS/launcher\" %f\n"};
-    const Lines refused = {"",
-                           "[Other]\nA=1\n" + good,
-                           good.substr(0, 16) + good.substr(33),
-                           good + "Name=Y\n",
-                           good + "[Desktop Entry]\n",
-                           good + "no line\n",
-                           good + "Colour=red\n",
-                           good + "Terminal=maybe\n",
-                           good + "Categories=Nonsense;\n",
-                           good + "Comment=\xff\n",
-
-                           exec + " %z\n",
-                           exec + " %f %U\n",
-                           exec + " > log\n",
-                           bare + "Exec=\"/o/Contents/MacOS/launcher\n",
-                           bare + "Exec=\"/o/$HOME/Contents/MacOS/launcher\"\n",
-                           bare + "Exec=launcher\n",
-                           bare + "Exec=/o/Contents/MacOS/launcher2\n",
-                           bare + "Exec=\"/o/Contents/MacOS\" launcher\n"};
-    for (const Lines& texts : {taken, refused}) {
-        for (const std::string& text : texts) {
-            EXPECT_EQ(DesktopEntryFault(text, "Contents/MacOS/launcher").empty(), texts == taken) << text;
+    const auto expect = [](bool isTaken, const std::string& front, const Lines& ends) {
+        for (const std::string& end : ends) {
+            const std::string text = front + end + "\n";
+            EXPECT_EQ(DesktopEntryFault(text, "Contents/MacOS/launcher").empty(), isTaken) << text;
         }
-    }
-}
-
-TEST_F(RulesTest, BuildNumbers) {
-    for (const std::string text : {"1", "2147483647", "", "0", "07", "+7", " 7", "7x", "2147483648"}) {
-        EXPECT_EQ(IsBuildNumber(text), text == "1" || text == "2147483647") << text;
-    }
+    };
+    expect(true, good,
+           {"\n# a", "Name[de]=Ü\nTerminal = false\nCategories=Network;X-Own;\nX-Any=1",
+            "Version=1.0\nKeywords=a;b;\nTryExec=/bin/true\nPath=/ü\nComment=a\\xb",
+            "Actions=new;\n[Desktop Action new]\nName=New\nExec=/o/Contents/MacOS/launcher --new"});
+    expect(true, exec, {" %U --icon %i %%"});
+    expect(true, bare, {"Exec=\"/opt/my X.app/Contents/MacOS/launcher\" %f"});
+    expect(false, "", {"", "[Other]\nA=1\n" + good, good.substr(0, 16) + good.substr(33)});
+    expect(false, good,
+           {"Name=Y", "[Desktop Entry]", "no line", "Colour=red", "Terminal=maybe", "Categories=Nonsense;",
+            "Comment=\xff"});
+    expect(false, exec, {" %z", " %f %U", " > log", "2"});
+    expect(false, bare + "Exec=",
+           {"\"/o/Contents/MacOS/launcher", "\"/o/$HOME/Contents/MacOS/launcher\"", "launcher",
+            "\"/o/Contents/MacOS\" launcher"});
 }

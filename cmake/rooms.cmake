@@ -34,15 +34,13 @@ endfunction()
 #
 # A test program whose cases CTest lists one by one. Every case runs off screen.
 function(kq_test name)
-    cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;USES;PROPERTIES" ${ARGN})
-    if(NOT TEST_TIMEOUT)
-        set(TEST_TIMEOUT 120)
-    endif()
+    cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE kq_compiler kq_test_support ${TEST_USES})
     gtest_discover_tests(${name}
         TEST_PREFIX "${name}."
         DISCOVERY_MODE PRE_TEST
-        PROPERTIES TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen" ${TEST_PROPERTIES})
+        DISCOVERY_TIMEOUT 60
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()

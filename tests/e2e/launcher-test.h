@@ -20,13 +20,13 @@ protected:
     // The entries of a client: links, folders and odd names included, INFO last and the binary the one before.
     static std::vector<PackageEntry> ClientEntries(int build);
     // What they look like once they are installed; installs them as an earlier run would have left them; the private
-    // folder's tree with them in it and what else is named.
+    // folder with them and what else is named.
     Tree ClientTree(int build) const;
     void InstallClient(int build) const;
     Tree HomeWith(int build, Tree others = {}) const;
 
-    // Starts the launcher, with a program in front that is to start it, and waits for its end. Such a program: strace
-    // with these arguments, which follows all threads and writes what it traces to the file "trace".
+    // Starts the launcher, with a program in front, and waits for its end. Such a program: strace with these arguments,
+    // on all threads, to the file "trace".
     Lines Arguments(Lines prefix = {}) const;
     Outcome Launch(const Lines& prefix = {}) const { return RunProcess(Arguments(prefix), environment_); }
     Lines Traced(const Lines& arguments) const;

@@ -1,5 +1,6 @@
 // A first install from the older product.
 #include "launcher-test.h"
+#include "volume.h"
 
 namespace {
 
@@ -69,6 +70,19 @@ TEST_F(MigrationTest, TheOlderClientIsStoppedAlsoWithoutAFolderForTheLog) {
     EXPECT_EQ(mailbox_.ReadLine(), StartedLine(1000));
     EXPECT_EQ(client.AwaitEnd(), 128 + SIGTERM);
     EXPECT_EQ(Read(Private("data/db/notes")), "precious");
+}
+
+TEST_F(MigrationTest, AFolderInOtherLettersIsNotTheOlderProducts) {
+    const Volume volume(Volume::ExFat, At("volume"), 16 << 20);
+    KQ_NEED(volume);
+    home_ = environment_["HOME"] = At("volume/home");
+    LayBundle(1000);
+    std::vector<PackageEntry> entries = ClientEntries(1000);
+    entries.erase(entries.begin() + 3);  // the volume has no links
+    WritePackage(Package(), entries);
+    Write(home_ + "/.TESSALY/data/notes", "precious");
+    ExpectLaunched(Launch(), 1000);
+    EXPECT_EQ(Read(home_ + "/.TESSALY/data/notes"), "precious");
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
-// Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads when
-// QT_QPA_GENERIC_PLUGINS names it. On each showing and hiding of a progress dialog it appends a line to the file that
-// KQ_PROBE_FILE names: what happened, the title, the label, the value, the font's family and size, the dialog's size in
-// pixels and how it may change, its flags, its modality and its buttons, separated by "|". Each value that is shown in
-// between has a line of its own. With KQ_PROBE_KEYS Esc is pressed and the dialog closed as soon as it is there.
+// Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads. On each
+// showing and hiding of a progress dialog it appends a line to the file that KQ_PROBE_FILE names, its fields separated by
+// "|", and a line for each value that is shown in between. With KQ_PROBE_KEYS Esc is pressed and the dialog closed as soon
+// as it is there.
 #include <QApplication>
 #include <QEvent>
 #include <QFile>

@@ -8,9 +8,8 @@
 bool EnterOwnMounts();
 
 // A volume mounted for one test, where the user is root on Linux, in a namespace that the process enters with its first
-// one: only its later children see it, and a crash leaves nothing behind. Make it before there are other threads.
-//     const Volume volume(Volume::Tmpfs, At("volume"), 1 << 20);
-//     KQ_NEED(volume);
+// one: only its later children see it, and a crash leaves nothing behind. Make it before there are other threads; then
+// KQ_NEED(volume).
 class Volume {
 public:
     // The kinds, as scripts that get the folder and the size. Another volume than the test's, with an end to its space:

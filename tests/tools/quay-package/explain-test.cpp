@@ -15,10 +15,7 @@ protected:
         return object;
     }
 
-    void EmptyHome() const {
-        fs::remove_all(home_);
-        fs::create_directory(home_);
-    }
+    void EmptyHome() const { fs::remove_all(home_), fs::create_directory(home_); }
 
     const std::string c_ = App() + "/Contents";
     const std::string program_ = c_ + "/MacOS/cloud-quay-ui";

@@ -1,7 +1,6 @@
-// Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads. On each
-// showing and hiding of a progress dialog it appends a line to the file that KQ_PROBE_FILE names, its fields separated by
-// "|", and a line for each value that is shown in between. With KQ_PROBE_KEYS Esc is pressed and the dialog closed as soon
-// as it is there.
+// Tells a test what a person sees of the dialog, from inside the real launcher: a plugin that Qt itself loads. Writes
+// to the file that KQ_PROBE_FILE names a line when a progress dialog is shown or hidden, and one for each value.
+// With KQ_PROBE_KEYS Esc is pressed and the dialog closed as soon as it is there.
 #include <QApplication>
 #include <QEvent>
 #include <QFile>

@@ -18,16 +18,15 @@ Error RunList(const CommandLine& line, Report& report) {
         report.Say(
             QStringLiteral("%1 %2 %3  ").arg(type, -8).arg(Q(Octal(entry.mode))).arg(entry.size, 12).toStdString() +
             Printable(entry.path + (isLink ? " -> " + entry.target : "")));
-        if (!report.isJson()) {
-            continue;
+        if (report.isJson()) {
+            array.append(QJsonObject{
+                {QStringLiteral("path"), Q(entry.path)},
+                {QStringLiteral("type"), type},
+                {QStringLiteral("mode"), Q(Octal(entry.mode))},
+                {QStringLiteral("size"), static_cast<double>(entry.size)},
+                {QStringLiteral("target"), isLink ? QJsonValue(Q(entry.target)) : QJsonValue()},
+            });
         }
-        array.append(QJsonObject{
-            {QStringLiteral("path"), Q(entry.path)},
-            {QStringLiteral("type"), type},
-            {QStringLiteral("mode"), Q(Octal(entry.mode))},
-            {QStringLiteral("size"), static_cast<double>(entry.size)},
-            {QStringLiteral("target"), isLink ? QJsonValue(Q(entry.target)) : QJsonValue()},
-        });
     }
     report.Set("operand", line.Operand());
     report.Set("entries", array);

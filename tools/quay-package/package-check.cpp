@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <set>
-#include <unordered_map>
 
 #include "files.h"
 #include "posix/archive.h"
@@ -94,6 +93,31 @@ std::string Difference(const Entry& entry, const Entry& there) {
                                           : "";
 }
 
+// Compares what the entries' files hold, but for those of which all is said.
+Error CompareData(const Package& package, const std::string& folder, const std::set<std::string>& settled,
+                  Defect differs, Findings& findings) {
+    QFile file;
+    std::size_t open = package.entries.size();
+    const auto take = [&](std::size_t at, std::string_view block) {
+        const std::string& path = package.entries[at].path;
+        if (open != at) {
+            open = at;
+            file.close();
+            if (settled.count(path) == 0 && OpenFile(folder + "/" + path, false, file)) {
+                findings.Add(differs, path, "it can't be read");
+            }
+        }
+        if (file.isOpen() && file.read(static_cast<qint64>(block.size())).toStdString() != block) {
+            file.close();
+            findings.Add(differs, path, "its content");
+        }
+        return Error();
+    };
+    Findings damage;
+    Error error = ReadData(package, "comparing", take, damage);
+    return error || damage.IsEmpty() ? error : Error(package.file + ": changed while it was compared");
+}
+
 }  // namespace
 
 Error CheckPackage(const std::string& file, std::int64_t limit, Package& package, Findings& findings) {
@@ -126,22 +150,22 @@ Error Compare(const Package& package, const std::string& folder, const Differenc
     if (Error error = ScanTree(folder, {}, tree)) {
         return error;
     }
-    std::unordered_map<std::string_view, const Entry*> added;
-    std::set<std::string_view> absent;  // or not to be compared any further
+    std::map<std::string, const Entry*> added;
+    std::set<std::string> settled;
     for (const Entry& there : tree) {
         added[there.path] = &there;
     }
     for (const Entry& entry : package.entries) {
         const auto found = added.find(entry.path);
         if (found == added.end()) {
-            absent.insert(entry.path);
+            settled.insert(entry.path);
             findings.Add(differences.missing, entry.path);
             continue;
         }
         const Entry& there = *found->second;
         const std::string difference = Difference(entry, there);
         if (!difference.empty()) {
-            absent.insert(entry.path);
+            settled.insert(entry.path);
             findings.Add(differences.differs, entry.path, difference);
         } else if (entry.kind != Kind::Link &&
                    ((there.mode & ~entry.mode) != 0 || ((there.mode ^ entry.mode) & 0700) != 0)) {
@@ -149,29 +173,8 @@ Error Compare(const Package& package, const std::string& folder, const Differenc
         }
         added.erase(found);
     }
-    for (const Entry& there : tree) {
-        if (added.count(there.path) != 0) {
-            findings.Add(differences.added, there.path);
-        }
+    for (const auto& [path, there] : added) {
+        findings.Add(differences.added, path);
     }
-    QFile file;
-    std::size_t open = package.entries.size();
-    const auto take = [&](std::size_t at, std::string_view block) {
-        const std::string& path = package.entries[at].path;
-        if (open != at) {
-            open = at;
-            file.close();
-            if (absent.count(path) == 0 && OpenFile(folder + "/" + path, false, file)) {
-                findings.Add(differences.differs, path, "it can't be read");
-            }
-        }
-        if (file.isOpen() && file.read(static_cast<qint64>(block.size())).toStdString() != block) {
-            file.close();
-            findings.Add(differences.differs, path, "its content");
-        }
-        return Error();
-    };
-    Findings damage;
-    Error error = ReadData(package, "comparing", take, damage);
-    return error || damage.IsEmpty() ? error : Error(package.file + ": changed while it was compared");
+    return CompareData(package, folder, settled, differences.differs, findings);
 }

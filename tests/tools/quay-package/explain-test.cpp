@@ -9,7 +9,7 @@ protected:
     QJsonObject Explain(const Codes& codes, const std::string& command = "explain") const {
         const Lines list = {"/bin/ls", "-lAiRc", "--time-style=full-iso", home_, bundle_};
         const std::string before = RunProcess(list).output;
-        const QJsonObject object = RunJson(command + " @bundle --home @home");
+        QJsonObject object = RunJson(command + " @bundle --home @home");
         EXPECT_EQ(CodesOf(object), codes);
         EXPECT_EQ(RunProcess(list).output, before);
         return object;

@@ -32,7 +32,7 @@ Lines QuayTest::Words(const std::string& line, Lines words) const {
 
 QJsonObject QuayTest::RunJson(const std::string& line) const {
     const Outcome outcome = Run("--json " + line);
-    const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
+    QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
     const std::map<std::string, int> results = {{"good", 0}, {"defects", 1}, {"error", 2}};
     const auto result = results.find(Value(object, "result"));
     EXPECT_TRUE(result != results.end() && result->second == outcome.exitCode) << line << outcome.output;
@@ -48,7 +48,7 @@ std::string QuayTest::Value(const QJsonObject& object, const char* key) {
 
 Codes QuayTest::CodesOf(const QJsonObject& object, const char* key) {
     Codes codes = Value(object, "result") == "error" ? Codes{"error"} : Codes();
-    for (const QJsonValue& finding : object.value(QLatin1String(key)).toArray()) {
+    for (const auto& finding : object.value(QLatin1String(key)).toArray()) {
         codes.insert(Value(finding.toObject(), "code"));
     }
     return codes;

@@ -27,6 +27,7 @@ TEST_F(ExplainTest, SaysWhatTheLauncherThenDoes) {
     Write(old_ + "/data/history", "");
     const QJsonObject first = Explain({});
     EXPECT_EQ(Value(first, "decision"), "install");
+    EXPECT_EQ(Value(first, "reason"), "the client's binary is missing");
     EXPECT_EQ(Value(first, "migrate"), old_);
     ExpectLaunched(Launch(), 8);
     EXPECT_EQ(ReadTree(App()), ClientTree(8));

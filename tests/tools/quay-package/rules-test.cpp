@@ -2,6 +2,7 @@
 #include "product-layout.h"
 #include "quay-test.h"
 #include "tools/quay-package/content.h"
+#include "tools/quay-package/text.h"
 
 namespace {
 
@@ -184,4 +185,9 @@ TEST_F(RulesTest, DesktopEntries) {
     expect(false, bare + "Exec=",
            {"\"/o/Contents/MacOS/launcher", "\"/o/$HOME/Contents/MacOS/launcher\"", "launcher",
             "\"/o/Contents/MacOS\" launcher"});
+}
+
+TEST_F(RulesTest, WhatCantBeSeenIsPrintedByItsBytes) {
+    EXPECT_EQ(Printable("ü\\ \n\u202E\u2028"), "ü\\\\ \\x0a\\xe2\\x80\\xae\\xe2\\x80\\xa8");
+    EXPECT_EQ(Printable("a\x80\u00fc"), "a\\x80\\xc3\\xbc") << "not UTF-8";
 }

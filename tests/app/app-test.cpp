@@ -63,11 +63,6 @@ TEST_F(AppTest, EmptyPathsOfAPackage) {
         EXPECT_EQ(MessageOf(&Extractor::Count, -1), "Invalid argument\n");
         *path = before;
     }
-    // A listing says so too, and then lists.
-    extractor_.destPath.clear();
-    ::testing::internal::CaptureStdout();
-    EXPECT_EQ(MessageOf(&Extractor::List, 0), "Invalid argument\n");
-    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "one\nfolder/two\n");
 }
 
 TEST_F(AppTest, ATreeIsCopied) {

@@ -72,6 +72,14 @@ TEST_F(MigrationTest, TheOlderClientIsStoppedAlsoWithoutAFolderForTheLog) {
     EXPECT_EQ(Read(Private("data/db/notes")), "precious");
 }
 
+TEST_F(MigrationTest, AnOlderFolderThatStaysIsLogged) {
+    KQ_NEED(Ability::Tracing);
+    LayBundle(1000);
+    LayOlder();
+    ExpectLaunched(Launch(Traced({"-P", home_ + "/.Tessaly", "-e", "inject=rmdir:error=EACCES"})), 1000);
+    EXPECT_EQ(LogLines(), Lines{"[ERROR] Failed to remove old .Tessaly folder"});
+}
+
 TEST_F(MigrationTest, AFolderInOtherLettersIsNotTheOlderProducts) {
     const Volume volume(Volume::ExFat, At("volume"), 16 << 20);
     KQ_NEED(volume);

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QImageReader>
 #include <QLocale>
 #include <QPalette>
+#include <QPixmap>
 #include <climits>
 #include <cstdint>
 
@@ -36,9 +38,11 @@ QPalette PaletteOnWhiteSmoke() {
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font = QApplication::font();
-    const QString icon = TablePath(kRootResourcePath) + InResources(kIconFile);
+    // Said to be what it is: to find that out, Qt would load every plugin for images that the system has.
+    QImageReader icon(TablePath(kRootResourcePath) + InResources(kIconFile), "PNG");
+    icon.setAutoDetectImageFormat(false);
     setWindowTitle(StrTable::LoadStr(StrTable::kRowAppName));
-    setWindowIcon(QIcon(icon));
+    setWindowIcon(QIcon(QPixmap::fromImageReader(&icon)));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);

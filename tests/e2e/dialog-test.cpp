@@ -18,7 +18,7 @@ protected:
     static std::string Shown(const std::string& first, const std::string& steps, const std::string& last,
                              const std::string& family = "Arial", const std::string& size = "400x80") {
         const std::string title = "|Kelvane Quay Client|";
-        const std::string rest = "|" + family + "|120|" + size + "|0|12288|0|0\n";
+        const std::string rest = "|" + family + "|120|" + size + "|0|12288|0|0|72\n";
         return "show" + title + first + "|0" + rest + steps + "hide" + title + last + "|100" + rest;
     }
 };

@@ -28,7 +28,9 @@ LauncherTest::LauncherTest()
 
 void LauncherTest::LayBundle(int build) {
     fs::create_directories(bundle_ + "/Contents/MacOS");
+    fs::create_directories(bundle_ + "/Contents/Resources/images");
     fs::copy_file(KQ_LAUNCHER, Arguments().front(), fs::copy_options::skip_existing);
+    fs::copy(KQ_ICON, bundle_ + "/Contents/Resources/images", fs::copy_options::skip_existing);
     Write(bundle_ + "/Contents/Resources/INFO", Info(build));
     WritePackage(Package(), ClientEntries(build));
 }

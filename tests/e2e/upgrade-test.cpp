@@ -266,6 +266,7 @@ TEST_F(UpgradeTest, CallsForEachEntryAndForAStartWithNothingToDo) {
     const int looks = std::stoi(RunProcess({"grep", "-c", "/.KelvaneQuay", At("trace")}).output);
     EXPECT_LE(looks, 24);
     EXPECT_GE(looks, 3) << "INFO, the binary and its start";
+    EXPECT_EQ(RunProcess({"grep", "-c", "libjpeg", At("trace")}).output, "0\n") << "the icon is a PNG image";
 }
 
 }  // namespace

@@ -29,7 +29,8 @@ public:
                            << dialog->font().pointSize() << dialog->font().italic() << '|' << pixels.width() << 'x'
                            << pixels.height() << '|' << room.width() + room.height() << '|'
                            << static_cast<int>(dialog->windowFlags() & ~Qt::WindowType_Mask) << '|' << dialog->isModal()
-                           << '|' << dialog->findChildren<QPushButton*>().size();
+                           << '|' << dialog->findChildren<QPushButton*>().size() << '|'
+                           << dialog->windowIcon().actualSize(pixels).width();
         Write(line);
         auto* bar = dialog->findChild<QProgressBar*>();
         disconnect(bar, nullptr, this, nullptr);

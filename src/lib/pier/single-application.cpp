@@ -39,6 +39,8 @@ struct Arguments {
 
 // They stay until the process ends, as Qt asks; only the first call's are taken.
 Arguments& ForQt(int argc, char** argv) {
+    // Nothing that is drawn follows the desktop, and a theme such as GTK's takes as long to load as all else together.
+    QApplication::setDesktopSettingsAware(false);
     static Arguments arguments(argc, argv);
     return arguments;
 }

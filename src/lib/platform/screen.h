@@ -14,9 +14,9 @@ extern const double kUnscaledDotsPerInch;
 // the application object.
 //
 // macOS: none. Linux: the user's choice of screen, with "offscreen" behind it, since Qt aborts where no screen answers;
-// no theme that the environment names, since one such as GTK's ends a process without a screen, only that of a desktop
-// that is there; and Qt's own style in place of the desktop's, so that the dialog looks alike everywhere. Source:
-// QGuiApplication, "Supported Command Line Options".
+// no theme that the environment names, since one such as GTK's ends a process without a screen; and Qt's own style in
+// place of the desktop's, so that the dialog looks alike everywhere. Source: QGuiApplication, "Supported Command Line
+// Options".
 std::vector<std::string> ScreenOptions();
 
 }  // namespace platform

@@ -1598,7 +1598,7 @@
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>大於 %1 MB 的檔案不會同步。</translation>
+        <translation>大於 %1&#xa0;MB 的檔案不會同步。</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -2509,7 +2509,7 @@
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>此磁碟空間不足。Tessaly 至少需要 %1 MB。</translation>
+        <translation>此磁碟空間不足。Tessaly 至少需要 %1&#xa0;MB。</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -3797,7 +3797,7 @@
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>此磁碟空間不足。%1 至少需要 %2 MB。</translation>
+        <translation>此磁碟空間不足。%1 至少需要 %2&#xa0;MB。</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -4133,7 +4133,7 @@
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>請輸入 0 到 %1 MB 之間的大小。輸入 0 表示不設限制。</translation>
+        <translation>請輸入 0 到 %1&#xa0;MB 之間的大小。輸入 0 表示不設限制。</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -4439,7 +4439,7 @@
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>請輸入小於 %1 MB 的大小。</translation>
+        <translation>請輸入小於 %1&#xa0;MB 的大小。</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>

@@ -1598,7 +1598,7 @@
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>%1 MB を超えるファイルは同期されません。</translation>
+        <translation>%1&#xa0;MB を超えるファイルは同期されません。</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -2509,7 +2509,7 @@
     <message>
         <source>There is not enough space on this disk. Tessaly needs at least %1 MB.</source>
         <extracomment>Message: %1 is a number.</extracomment>
-        <translation>このディスクの空き容量が足りません。Tessaly には少なくとも %1 MB が必要です。</translation>
+        <translation>このディスクの空き容量が足りません。Tessaly には少なくとも %1&#xa0;MB が必要です。</translation>
     </message>
     <message>
         <source>Tessaly is now linked to the hub and will keep your files in sync.</source>
@@ -3797,7 +3797,7 @@
     <message>
         <source>There is not enough space on this disk. %1 needs at least %2 MB.</source>
         <extracomment>Message: %1 is a product name, %2 a number.</extracomment>
-        <translation>このディスクの空き容量が足りません。%1 には少なくとも %2 MB が必要です。</translation>
+        <translation>このディスクの空き容量が足りません。%1 には少なくとも %2&#xa0;MB が必要です。</translation>
     </message>
     <message>
         <source>Sync your home folder and the team folders that you have access to.</source>
@@ -4133,7 +4133,7 @@
     <message>
         <source>Enter a size from 0 to %1 MB. Enter 0 to set no limit.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>0 から %1 MB までのサイズを入力してください。制限しない場合は 0 を入力してください。</translation>
+        <translation>0 から %1&#xa0;MB までのサイズを入力してください。制限しない場合は 0 を入力してください。</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -4439,7 +4439,7 @@
     <message>
         <source>Please enter a size of less than %1 MB.</source>
         <extracomment>Tooltip of a field; %1 is a number.</extracomment>
-        <translation>%1 MB 未満のサイズを入力してください。</translation>
+        <translation>%1&#xa0;MB 未満のサイズを入力してください。</translation>
     </message>
     <message>
         <source>This folder is already part of another backup task. Please choose another folder.</source>

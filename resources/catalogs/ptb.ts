@@ -1489,7 +1489,7 @@
     <message>
         <source>Advanced setup</source>
         <extracomment>Menu item/Choice: opens the wizard that sets up the client step by step (noun); not the installer, and not &quot;Advanced settings&quot;.</extracomment>
-        <translation>Configuração avançada</translation>
+        <translation>Assistente de configuração avançada</translation>
     </message>
     <message>
         <source>Do not show this message again</source>

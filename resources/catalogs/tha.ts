@@ -1315,7 +1315,7 @@
     <message>
         <source>%1 hours ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 ชั่วโมงที่แล้ว</translation>
+        <translation>%1&#xa0;ชั่วโมงที่แล้ว</translation>
     </message>
     <message>
         <source>Choose a folder on the hub and a folder on this computer. Their contents will be kept identical.</source>
@@ -1339,7 +1339,7 @@
     <message>
         <source>%1 days ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 วันที่แล้ว</translation>
+        <translation>%1&#xa0;วันที่แล้ว</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -1349,7 +1349,7 @@
     <message>
         <source>%1 minutes ago</source>
         <extracomment>Status: how long ago a file changed; %1 is a number from 1; one text for every number, days, hours and minutes in one style.</extracomment>
-        <translation>%1 นาทีที่แล้ว</translation>
+        <translation>%1&#xa0;นาทีที่แล้ว</translation>
     </message>
     <message>
         <source>File</source>
@@ -2989,7 +2989,7 @@
     <message>
         <source>The backup is complete. The computer will shut down in %1 seconds.</source>
         <extracomment>Message: %1 is a number that counts down.</extracomment>
-        <translation>การสำรองข้อมูลเสร็จสมบูรณ์แล้ว คอมพิวเตอร์จะปิดใน %1 วินาที</translation>
+        <translation>การสำรองข้อมูลเสร็จสมบูรณ์แล้ว คอมพิวเตอร์จะปิดใน %1&#xa0;วินาที</translation>
     </message>
     <message>
         <source>Backup task</source>

@@ -1,6 +1,5 @@
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <filesystem>
 
@@ -79,7 +78,8 @@ Error RehearseIn(const CommandLine& line, const Package& package, const std::str
     }
     QTemporaryDir scratch(QDir::tempPath() + QStringLiteral("/quay-package-XXXXXX"));
     const std::string path = scratch.path().toStdString();
-    if (!scratch.isValid() || QStorageInfo(scratch.path()).bytesAvailable() < package.bytes) {
+    const std::int64_t free = FreeBytes(path);
+    if (!scratch.isValid() || (free >= 0 && free < package.bytes)) {
         return Error(path + ": no room for the rehearsal, which takes " + SizeText(package.bytes));
     }
     Error error = Rehearse(package, bundle, path, report.findings);

@@ -1,7 +1,6 @@
 #include <unistd.h>
 
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -184,7 +183,7 @@ private:
         if (KindAt(place) == Kind::Folder && access(place.c_str(), W_OK | X_OK) != 0) {
             Add(Defect::NotWritable, place);
         }
-        const qint64 free = QStorageInfo(QString::fromStdString(place)).bytesAvailable();
+        const std::int64_t free = FreeBytes(place);
         std::int64_t needed = 0;
         for (const Entry& entry : package.entries) {
             needed += kBlock + (entry.size + kBlock - 1) / kBlock * kBlock;

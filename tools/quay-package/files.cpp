@@ -125,6 +125,11 @@ Error ScanTree(const std::string& root, const std::function<std::size_t(const st
     return failure ? Error(root + ": can't be read as a whole: " + failure.message()) : Error();
 }
 
+std::int64_t FreeBytes(const std::string& folder) {
+    std::error_code unknown;  // the library then gives -1, unsigned
+    return static_cast<std::int64_t>(fs::space(folder, unknown).available);
+}
+
 QString HiddenTemplate(const std::string& path) {
     const QFileInfo info(QString::fromStdString(path));
     return info.path() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".XXXXXX");

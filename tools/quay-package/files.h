@@ -33,6 +33,9 @@ bool Look(const std::string& root, const std::string& path, Entry& entry);
 std::optional<Kind> KindAt(const std::string& path);
 bool IsEmptyFolder(const std::string& path);
 
+// The bytes that the user may still write to a folder's volume, or -1 where that is not known.
+std::int64_t FreeBytes(const std::string& folder);
+
 // Lists all that lies below a folder in the order in which a package holds it: by the bytes of the names, a folder
 // before what it holds. `wanted` says how much of a file's content is read, or kSkip to leave a folder's inside out.
 inline constexpr std::size_t kSkip = static_cast<std::size_t>(-1);

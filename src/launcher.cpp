@@ -139,7 +139,8 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), progressDialog(nullptr
     progressDialog->setModal(false);
     // Esc closes the dialog even so, and the application's last window with it: the work goes on until LaunchDone.
     QApplication::setQuitOnLastWindowClosed(false);
-    // Each entry of a package sends a signal, and to be woken by each would take a seventh of an upgrade's time.
+    // Each entry of a package sends a signal, and to be woken by each would take a seventh of an upgrade's time. By
+    // poll: whoever traces the calls that sleep sees those alone that wait for an old client's end.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
         if (progressDialog->isVisible()) {
             poll(nullptr, 0, kPauseMilliseconds);

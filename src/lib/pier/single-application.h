@@ -17,7 +17,8 @@ class QtSingleApplication : public QApplication {
 
 public:
     // `argc` and `argv` must outlive the object, as for QApplication. `gui` asks for the graphical interface; it is
-    // always there in a QApplication, and the argument is part of the class's interface only.
+    // always there in a QApplication, and the argument is part of the class's interface only. Nothing follows the
+    // desktop's settings; which screen is taken, platform::ScreenOptions says.
     QtSingleApplication(int& argc, char** argv, bool gui);
 
     // Whether another process has the lock. Valid before the event loop starts; the first call decides.
